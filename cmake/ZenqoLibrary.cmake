@@ -1,0 +1,47 @@
+# The widget library. Every public class is a pair of files named after it; common/ is private.
+
+set(zenqo_public_classes
+  console/MainTextCtrl)
+
+set(zenqo_engine_headers
+  engine/Dataset.h
+  engine/Engine.h
+  engine/Events.h
+  engine/Export.h
+  engine/Functions.h
+  engine/Globals.h
+  engine/Model.h
+  engine/Sentinels.h)
+
+set(zenqo_private_sources
+  common/DroppedFile.cpp
+  common/Number.cpp
+  common/ScriptEvent.cpp
+  common/TexText.cpp
+  common/Text.cpp
+  common/Warning.cpp)
+
+set(zenqo_public_headers ${zenqo_engine_headers})
+foreach(class ${zenqo_public_classes})
+  list(APPEND zenqo_public_headers ${class}.h)
+  list(APPEND zenqo_public_sources ${class}.cpp)
+endforeach()
+
+# The helpers, which the library takes in whole and the tests link a second time to reach them.
+add_library(zenqo_private STATIC ${zenqo_private_sources})
+zenqo_common(zenqo_private)
+set_target_properties(zenqo_private PROPERTIES POSITION_INDEPENDENT_CODE ON)
+target_link_libraries(zenqo_private PUBLIC Zenqo::wxWidgets Eigen3::Eigen PRIVATE Boost::headers)
+
+# What hosts link. The engine's symbols stay undefined here: the host's executable or the engine's
+# own libraries define them.
+add_library(zenqo_widgets SHARED ${zenqo_public_sources})
+add_library(Zenqo::Widgets ALIAS zenqo_widgets)
+zenqo_common(zenqo_widgets)
+set_target_properties(zenqo_widgets PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 2
+                                               EXPORT_NAME Widgets)
+target_compile_features(zenqo_widgets PUBLIC cxx_std_17)
+target_link_libraries(zenqo_widgets PUBLIC Zenqo::wxWidgets Eigen3::Eigen
+                                    PRIVATE $<BUILD_INTERFACE:zenqo_private>)
+target_include_directories(zenqo_widgets PUBLIC
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/zenqo>)

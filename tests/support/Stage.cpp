@@ -1,0 +1,105 @@
+#include "support/Stage.h"
+
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/evtloop.h>
+#include <wx/filename.h>
+#include <wx/sizer.h>
+#include <wx/stopwatch.h>
+#include <wx/uiaction.h>
+#include <wx/utils.h>
+
+Stage::Stage(wxSize size)
+    : m_frame(new wxFrame(nullptr, wxID_ANY, "Stage", wxPoint(20, 20), size))
+{
+    m_frame->Show();
+    Pump(20);
+    PumpUntil([this] { return m_frame->IsActive(); }, 2000);
+}
+
+Stage::~Stage()
+{
+    m_frame->Destroy();
+    Pump(10);
+}
+
+void Stage::Fill(wxWindow* widget)
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(widget, 1, wxEXPAND);
+    m_frame->SetSizer(sizer);
+    m_frame->Layout();
+    Pump();
+}
+
+void Pump(int milliseconds)
+{
+    wxStopWatch watch;
+    do
+    {
+        auto* const loop = wxEventLoopBase::GetActive();
+        loop->YieldFor(wxEVT_CATEGORY_ALL);
+        wxTheApp->ProcessIdle();
+        if (watch.Time() < milliseconds)
+            wxMilliSleep(2);
+    } while (watch.Time() < milliseconds);
+}
+
+bool PumpUntil(std::function<bool()> const& condition, int milliseconds)
+{
+    wxStopWatch watch;
+    while (!condition())
+    {
+        if (watch.Time() > milliseconds)
+            return false;
+        Pump(5);
+    }
+    return true;
+}
+
+void ClickAt(wxWindow* window, wxPoint const& inClient, int button)
+{
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(window->ClientToScreen(inClient));
+    Pump(30);
+    simulator.MouseClick(button);
+    Pump(60);
+}
+
+void Click(wxWindow* window)
+{
+    auto const size = window->GetClientSize();
+    ClickAt(window, wxPoint(size.x / 2, size.y / 2));
+}
+
+void Press(int keyCode, int modifiers)
+{
+    wxUIActionSimulator().Char(keyCode, modifiers);
+    Pump(40);
+}
+
+void TypeText(char const* text)
+{
+    wxUIActionSimulator().Text(text);
+    Pump(60);
+}
+
+wxImage Photograph(wxWindow* window)
+{
+    Pump(30);
+    wxRect const area = window->GetScreenRect();
+    wxBitmap bitmap(area.width, area.height, 24);
+    wxScreenDC screen;
+    wxMemoryDC memory(bitmap);
+    memory.Blit(0, 0, area.width, area.height, &screen, area.x, area.y);
+    memory.SelectObject(wxNullBitmap);
+    return bitmap.ConvertToImage();
+}
+
+void Keep(wxImage const& photograph, wxString const& name)
+{
+    wxString folder = ".";
+    wxGetEnv("ZENQO_TEST_OUTPUT", &folder);
+    wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    photograph.SaveFile(folder + "/" + name + ".png", wxBITMAP_TYPE_PNG);
+}
