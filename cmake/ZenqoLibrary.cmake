@@ -1,7 +1,8 @@
 # The widget library. Every public class is a pair of files named after it; common/ is private.
 
 set(zenqo_public_classes
-  console/MainTextCtrl)
+  console/MainTextCtrl
+  console/ZenqoConsole)
 
 set(zenqo_engine_headers
   engine/Dataset.h
