@@ -1,5 +1,6 @@
 #include "console/ZenqoConsole.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iostream>
 #include <sstream>
@@ -250,6 +251,8 @@ void ZenqoConsole::SetLastPointVisible()
     int const visible = m_text->GetClientSize().GetHeight() / lineHeight;
     long const position = m_text->XYToPosition(0, std::max(0, m_text->GetNumberOfLines() - visible));
     m_text->ShowPosition(position);
+    // This toolkit scrolls no further than it must, which leaves that line at the bottom.
+    m_text->ShowPosition(m_text->GetLastPosition());
 }
 
 void ZenqoConsole::OnSetTabStops()

@@ -87,7 +87,10 @@ void TypeText(char const* text)
 wxImage Photograph(wxWindow* window)
 {
     Pump(30);
-    wxRect const area = window->GetScreenRect();
+    // The window manager places windows where it likes; ClientToScreen asks the server for the truth.
+    wxPoint const inWindow = window->IsTopLevel() ? wxPoint() : window->GetClientAreaOrigin();
+    wxSize const size = window->IsTopLevel() ? window->GetClientSize() : window->GetSize();
+    wxRect const area(window->ClientToScreen(-inWindow), size);
     wxBitmap bitmap(area.width, area.height, 24);
     wxScreenDC screen;
     wxMemoryDC memory(bitmap);
