@@ -26,7 +26,8 @@ private:
 /// A console that fills a shown window, and its text control.
 struct ConsoleOnStage
 {
-    explicit ConsoleOnStage(bool gui = true) : mode(gui), console(new ZenqoConsole(stage.Frame()))
+    explicit ConsoleOnStage(bool gui = true, wxSize size = wxSize(900, 700))
+        : stage(size), mode(gui), console(new ZenqoConsole(stage.Frame()))
     {
         text = static_cast<MainTextCtrl*>(console->GetChildren().GetFirst()->GetData());
         stage.Fill(console);

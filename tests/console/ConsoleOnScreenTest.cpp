@@ -8,6 +8,7 @@
 
 namespace
 {
+/// True where something is drawn on the light background.
 bool IsInk(wxImage const& image, int x, int y)
 {
     return image.GetRed(x, y) < 200 || image.GetGreen(x, y) < 200 || image.GetBlue(x, y) < 200;
@@ -81,7 +82,8 @@ TEST_CASE("a horizontal rule is seen")
 
 TEST_CASE("after 10,000 prints the last lines stand on the screen, drawn once each, and no stale line")
 {
-    ConsoleOnStage on;
+    // Each print repaints the control, so a small window keeps the test short.
+    ConsoleOnStage on(true, wxSize(360, 240));
     wxColour const blue(0, 0, 160);
     for (int i = 1; i <= 10000; ++i)
     {
@@ -111,7 +113,7 @@ TEST_CASE("after 10,000 prints the last lines stand on the screen, drawn once ea
 
 TEST_CASE("prints of many lines past the trim leave no stale line")
 {
-    ConsoleOnStage on;
+    ConsoleOnStage on(true, wxSize(800, 400));
     for (int i = 1; i <= 400; ++i)
     {
         on.console->PrintOnConsoleCode("print(m" + std::to_string(i) + ");");

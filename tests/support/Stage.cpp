@@ -1,8 +1,10 @@
 #include "support/Stage.h"
 
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
+#include <cstdlib>
+
+#include <wx/app.h>
 #include <wx/evtloop.h>
+#include <wx/filefn.h>
 #include <wx/filename.h>
 #include <wx/sizer.h>
 #include <wx/stopwatch.h>
@@ -91,12 +93,16 @@ wxImage Photograph(wxWindow* window)
     wxPoint const inWindow = window->IsTopLevel() ? wxPoint() : window->GetClientAreaOrigin();
     wxSize const size = window->IsTopLevel() ? window->GetClientSize() : window->GetSize();
     wxRect const area(window->ClientToScreen(-inWindow), size);
-    wxBitmap bitmap(area.width, area.height, 24);
-    wxScreenDC screen;
-    wxMemoryDC memory(bitmap);
-    memory.Blit(0, 0, area.width, area.height, &screen, area.x, area.y);
-    memory.SelectObject(wxNullBitmap);
-    return bitmap.ConvertToImage();
+    // Another program takes the picture: what this process reads back of the screen may be a copy
+    // that the drawing library kept from an earlier time.
+    wxString const file = wxFileName::CreateTempFileName("zenqo-photograph");
+    wxString const command = wxString::Format("import -silent -window root -crop %dx%d+%d+%d +repage png24:%s",
+                                              area.width, area.height, area.x, area.y, file);
+    wxImage image;
+    if (std::system(command.utf8_str()) == 0)
+        image.LoadFile(file, wxBITMAP_TYPE_PNG);
+    wxRemoveFile(file);
+    return image;
 }
 
 void Keep(wxImage const& photograph, wxString const& name)
