@@ -26,7 +26,8 @@ extern ZENQO_API Eigen::IOFormat GLOBAL_IOFormatConsole;
 /// Format of a matrix or vector written into a script fragment.
 extern ZENQO_API Eigen::IOFormat GLOBAL_IOFormatInput;
 
-/// Paths to the binaries of outside programs; zenqo::DEFAULT_STRING where none is set.
+/// Path to the binary of an outside program; zenqo::DEFAULT_STRING where none is set.
+///@{
 extern ZENQO_API std::string GLOBAL_DirectoryJAGS;
 extern ZENQO_API std::string GLOBAL_DirectoryBUGS;
 extern ZENQO_API std::string GLOBAL_DirectorySTAN;
@@ -34,4 +35,5 @@ extern ZENQO_API std::string GLOBAL_DirectoryMATLAB;
 extern ZENQO_API std::string GLOBAL_DirectoryOCTAVE;
 extern ZENQO_API std::string GLOBAL_DirectoryR;
 extern ZENQO_API std::string GLOBAL_DirectorySTATA;
+///@}
 } // namespace Zenqo_SYSTEM_NAMESPACE
