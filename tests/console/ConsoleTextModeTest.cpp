@@ -71,7 +71,7 @@ int FlushesOf(std::function<void()> const& print)
 
 TEST_CASE("in text mode every byte on a process's standard output is as told")
 {
-    auto const pieces = PiecesOf(OutputOf(TEXT_MODE_PRINTER " 2>/dev/null"));
+    auto const pieces = PiecesOf(OutputOf("\"" TEXT_MODE_PRINTER "\" 2>/dev/null"));
     REQUIRE(pieces.size() == 21);
     CHECK(pieces.at("string") == "b\xC3\xA9ta");
     CHECK(pieces.at("int") == "-7");
@@ -101,7 +101,7 @@ TEST_CASE("in text mode every byte on a process's standard output is as told")
 
 TEST_CASE("the banner in text mode is a figure of seven lines, name and version behind it")
 {
-    auto const pieces = PiecesOf(OutputOf(TEXT_MODE_PRINTER " 2>/dev/null"));
+    auto const pieces = PiecesOf(OutputOf("\"" TEXT_MODE_PRINTER "\" 2>/dev/null"));
     std::istringstream banner(pieces.at("startup"));
     std::vector<std::string> lines;
     for (std::string line; std::getline(banner, line);)
@@ -122,7 +122,7 @@ TEST_CASE("the banner in text mode is a figure of seven lines, name and version 
 
 TEST_CASE("a process in text mode writes nothing on standard error")
 {
-    CHECK(OutputOf(TEXT_MODE_PRINTER " 2>&1 >/dev/null") == "");
+    CHECK(OutputOf("\"" TEXT_MODE_PRINTER "\" 2>&1 >/dev/null") == "");
 }
 
 TEST_CASE("in text mode those prints flush that end a line or a message, and no others")

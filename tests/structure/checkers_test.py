@@ -176,6 +176,17 @@ class Documentation(Tree):
         self.assertEqual(self.check(),
                          ["Member Count(int group) const (function) of class Alpha is not documented."])
 
+    def test_a_run_of_operations_under_one_comment(self):
+        count = "    int Count(int group) const;\n"
+        self.change("pickers/Alpha.h", count, count + "    int Count() const;\n")
+        self.assertEqual(self.check(), [])
+
+    def test_an_operation_apart_from_a_run(self):
+        count = "    int Count(int group) const;\n"
+        self.change("pickers/Alpha.h", count, count + "\n    int Sum() const;\n")
+        self.assertEqual(self.check(),
+                         ["Member Sum() const (function) of class Alpha is not documented."])
+
     def test_a_class_that_is_not_told(self):
         self.change("pickers/Alpha.h", "/// Picks.\n", "")
         self.assertEqual(self.check(), ["Compound Alpha is not documented."])

@@ -14,6 +14,19 @@ import tree
 # where it helps.
 EXCUSED = re.compile(r"Member ~?(\w+)\(.*\) .*\(function\) of class (?:\w+::)*\1 is not documented"
                      r"|/common/\w+\.h:\d+: warning: .* is not documented")
+NOT_TOLD = re.compile(r"(.*):(\d+): warning: Member .* is not documented")
+
+
+def told_with_others(warning):
+    """True if the declaration stands in a run of declarations with a comment over the first."""
+    match = NOT_TOLD.match(warning)
+    if not match:
+        return False
+    lines = Path(match.group(1)).read_text().splitlines()
+    before = int(match.group(2)) - 2
+    while re.match(r"\s+[\w:].*[;,(]$", lines[before]):
+        before -= 1
+    return lines[before].lstrip().startswith("///")
 
 
 def check(root, output):
@@ -31,7 +44,8 @@ WARN_LOGFILE = "{output}/warnings.txt"
     subprocess.run(["doxygen", "-"], input=settings, text=True, check=True,
                    stdout=subprocess.DEVNULL, stderr=subprocess.STDOUT)
     warnings = (output / "warnings.txt").read_text().splitlines()
-    return [warning for warning in warnings if not EXCUSED.search(warning)]
+    return [warning for warning in warnings
+            if not EXCUSED.search(warning) and not told_with_others(warning)]
 
 
 if __name__ == "__main__":
