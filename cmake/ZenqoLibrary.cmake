@@ -2,7 +2,12 @@
 
 set(zenqo_public_classes
   console/MainTextCtrl
-  console/ZenqoConsole)
+  console/ZenqoConsole
+  dialogs/data/ExportDataDialog
+  dialogs/data/ImportDataDialog
+  pickers/DatasetPicker
+  pickers/MatrixPicker
+  pickers/ModelPicker)
 
 set(zenqo_engine_headers
   engine/Dataset.h
@@ -15,8 +20,12 @@ set(zenqo_engine_headers
   engine/Sentinels.h)
 
 set(zenqo_private_sources
+  common/ChoiceRow.cpp
+  common/Delimiter.cpp
+  common/DialogFrame.cpp
   common/DroppedFile.cpp
   common/Number.cpp
+  common/SaveFileBox.cpp
   common/ScriptEvent.cpp
   common/TexText.cpp
   common/Text.cpp

@@ -1,0 +1,56 @@
+#include "dialogs/data/ExportDataDialog.h"
+
+#include <wx/filename.h>
+#include <wx/filepicker.h>
+#include <wx/radiobox.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+
+#include "common/Delimiter.h"
+#include "common/DialogFrame.h"
+#include "common/MapKeys.h"
+#include "common/SaveFileBox.h"
+#include "common/Text.h"
+#include "pickers/DatasetPicker.h"
+
+ExportDataDialog::ExportDataDialog(wxWindow* parent, DatasetMap* datasets, int selection, bool)
+    : wxDialog(parent, wxID_ANY, "Export Data"), m_names(zenqo::KeysOf(*datasets))
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Dataset to export");
+    m_dataset = new DatasetPicker(box->GetStaticBox());
+    box->Add(m_dataset, 2, wxEXPAND, 5);
+    sizer->Add(box, 0, wxEXPAND | wxALL, 5);
+    m_file = zenqo::AddSaveFileBox(this, sizer, wxEmptyString);
+    m_delimiter = zenqo::MakeDelimiterBox(this);
+    sizer->Add(m_delimiter, 0, wxEXPAND | wxALL, 5);
+    zenqo::AddButtonRow(this, sizer, "&Export", 1,
+                        wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM);
+
+    m_dataset->SetChoices(m_names);
+    auto const count = static_cast<int>(m_names.size());
+    m_dataset->SetSelection(selection < count ? selection : 0);
+    ProposeFile(zenqo::ToWide(GetDatasetName()));
+    zenqo::LayOutDialog(this, sizer);
+}
+
+std::string ExportDataDialog::GetDatasetName() const { return m_dataset->GetSelectionString(); }
+
+wxString ExportDataDialog::GetPath() const
+{
+    return wxFileName(m_file->GetPath()).GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
+}
+
+std::string ExportDataDialog::GetFileName() const { return zenqo::ToNarrow(m_file->GetPath()); }
+
+char ExportDataDialog::GetDelimiter() const { return zenqo::SelectedDelimiter(m_delimiter); }
+
+void ExportDataDialog::SetDataset(int index)
+{
+    if (index < 0 || index >= static_cast<int>(m_names.size()))
+        return;
+    m_dataset->SetSelection(index);
+    ProposeFile(m_names[static_cast<std::size_t>(index)]);
+}
+
+void ExportDataDialog::ProposeFile(wxString const& name) { m_file->SetPath("./" + name + ".csv"); }

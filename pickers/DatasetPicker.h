@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include <wx/panel.h>
+
+#include "engine/Export.h"
+
+class wxChoice;
+
+/// A labelled drop-down row in which the user names one dataset of the workspace.
+///
+/// The owner fills it with names, reads the chosen one back and binds `wxEVT_CHOICE` on the picker:
+/// one event comes for each real change, none when the entry chosen already is picked again.
+class ZENQO_API DatasetPicker : public wxPanel
+{
+public:
+    explicit DatasetPicker(wxWindow* parent);
+
+    /// The index of the selected entry, from 0; `wxNOT_FOUND` if there is none.
+    int GetSelection() const;
+
+    /// Selects entry `index`, or nothing if there is no such entry. Raises no event and leaves the
+    /// change filter where it was: owners call SetCurrentSelection as well to have it follow.
+    void SetSelection(int index);
+
+    /// Tells the change filter that entry `index` is the one last reported.
+    void SetCurrentSelection(int index);
+
+    /// Puts `names` in the place of all entries, in their order. Nothing is selected afterwards.
+    void SetChoices(wxArrayString& names);
+
+    /// Selects the entry that reads exactly `name`, upper and lower case told apart; nothing if
+    /// there is none. Raises no event.
+    void SetChoice(wxString& name);
+
+    /// Removes all entries.
+    void ClearChoices();
+
+    /// The selected name as the key of the map of datasets; empty if nothing is selected or
+    /// the name has no narrow form.
+    std::string GetSelectionString() const;
+
+    /// The user has picked an entry: a real change travels on to the owner, any other ends here.
+    void OnDatasetChanged(wxCommandEvent& event);
+
+private:
+    wxChoice* m_choice;
+    int m_currentSelection = 0; ///< The index last reported as changed.
+};
