@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "engine/Engine.h"
+
+namespace workbench
+{
+/// The name of a dataset's hidden first column, a column of ones.
+inline constexpr char const* CONSTANT = "constant";
+
+/// One thing of a workspace, or nothing.
+///
+/// Objects in a workspace may be shared with whoever reads them: a command that changes one makes
+/// a new object and puts it in the old one's place.
+using Object = std::variant<std::monostate, std::shared_ptr<Dataset>, std::shared_ptr<Eigen::MatrixXd>,
+                            std::shared_ptr<Model>>;
+
+/// What the user works on. A name stands for one object, whatever kind it is of: putting an object
+/// under a name takes away what had the name, in any of the maps.
+struct Workspace
+{
+    DatasetMap datasets;
+    MatrixMap matrices;
+    ModelMap models;
+
+    /// The object called `name`, or nothing.
+    Object Find(std::string const& name) const;
+
+    /// Puts `object` under `name`; a dataset takes the name over.
+    void Assign(std::string const& name, Object const& object);
+
+    void Remove(std::string const& name);
+
+    /// All names, sorted.
+    std::vector<std::string> Names() const;
+};
+
+/// A copy that shares nothing with `object`.
+Object Copy(Object const& object);
+
+/// A dataset without values: `rows` observations on the hidden first column, all ones, and on the
+/// variables called `names`.
+std::shared_ptr<Dataset> MakeDataset(std::vector<std::string> const& names, Eigen::Index rows);
+} // namespace workbench

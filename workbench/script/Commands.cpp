@@ -1,0 +1,250 @@
+#include "workbench/script/Commands.h"
+
+#include <algorithm>
+
+#include "workbench/engine/DelimitedText.h"
+#include "workbench/engine/WorkspaceFile.h"
+#include "workbench/script/Nearest.h"
+#include "workbench/script/Output.h"
+#include "workbench/script/Print.h"
+
+namespace workbench
+{
+namespace
+{
+// ----------------------------------------------------------------------------------- the commands
+
+Outcome RunClear(Context const&, Arguments const& arguments)
+{
+    arguments.AnyObject(0);
+    Outcome outcome;
+    outcome.removed.push_back(arguments.Text(0));
+    return outcome;
+}
+
+Outcome RunExport(Context const& context, Arguments const& arguments)
+{
+    ExportDelimited(*arguments.DatasetAt(0), arguments.Text(1), arguments.Delimiter(2), context.progress);
+    return {};
+}
+
+Outcome RunHelp(Context const& context, Arguments const&)
+{
+    std::string text = "\n";
+    for (auto const& command : Commands())
+        text += command.Usage() + "\n    " + command.help + "\n";
+    context.output.Text(text);
+    return {};
+}
+
+Outcome RunImport(Context const& context, Arguments const& arguments)
+{
+    auto const import = ImportDelimited(arguments.Text(0), arguments.Delimiter(1), context.progress);
+    if (!import.warning.empty())
+        context.output.Warning(import.warning);
+    Outcome outcome;
+    outcome.result = import.dataset;
+    return outcome;
+}
+
+Outcome RunLoad(Context const& context, Arguments const& arguments)
+{
+    Outcome outcome;
+    outcome.workspace = LoadWorkspace(arguments.Text(0), context.progress);
+    return outcome;
+}
+
+Outcome RunPrint(Context const& context, Arguments const& arguments)
+{
+    Print(arguments.Text(0), arguments.AnyObject(0), context.output);
+    return {};
+}
+
+Outcome RunSave(Context const& context, Arguments const& arguments)
+{
+    SaveWorkspace(context.workspace, arguments.Text(0), context.progress);
+    return {};
+}
+
+// --------------------------------------------------------------------------------------- checking
+
+std::string Describe(Argument const& argument)
+{
+    switch (argument.kind)
+    {
+    case Argument::Kind::String:
+        return "the string \"" + argument.text + "\"";
+    case Argument::Kind::Name:
+        return "the name \"" + argument.text + "\"";
+    case Argument::Kind::Number:
+        return "a number";
+    case Argument::Kind::Matrix:
+        break;
+    }
+    return "a matrix";
+}
+
+/// What is expected for a parameter, and the kinds of argument that are.
+char const* Expected(ParameterKind kind)
+{
+    switch (kind)
+    {
+    case ParameterKind::String:
+        return "a string in double quotes";
+    case ParameterKind::Delimiter:
+        return "a string of one character, or \"\\t\" for the tab,";
+    case ParameterKind::ObjectName:
+        return "the name of an object";
+    case ParameterKind::DatasetName:
+        return "the name of a dataset";
+    case ParameterKind::Matrix:
+        return "a matrix or the name of one";
+    case ParameterKind::Number:
+        break;
+    }
+    return "a number";
+}
+
+bool IsOneCharacter(std::string const& text) { return text.size() == 1 || text == "\\t"; }
+
+bool Fits(Argument const& argument, ParameterKind kind)
+{
+    using Kind = Argument::Kind;
+    switch (kind)
+    {
+    case ParameterKind::String:
+        return argument.kind == Kind::String;
+    case ParameterKind::Delimiter:
+        return argument.kind == Kind::String && IsOneCharacter(argument.text);
+    case ParameterKind::ObjectName:
+    case ParameterKind::DatasetName:
+        return argument.kind == Kind::Name;
+    case ParameterKind::Matrix:
+        return argument.kind != Kind::String;
+    case ParameterKind::Number:
+        break;
+    }
+    return argument.kind == Kind::Number;
+}
+
+std::vector<std::string> CommandNames()
+{
+    std::vector<std::string> names;
+    for (auto const& command : Commands())
+        names.push_back(command.name);
+    return names;
+}
+
+Command const& FindCommand(Call const& call)
+{
+    for (auto const& command : Commands())
+        if (command.name == call.command)
+            return command;
+    throw ScriptError("there is no command \"" + call.command + "\""
+                          + Suggestion(call.command, CommandNames(), "commands"),
+                      call.position);
+}
+} // namespace
+
+std::vector<Command> const& Commands()
+{
+    using Kind = ParameterKind;
+    static std::vector<Command> const commands = {
+        {"clear", {{"name", Kind::ObjectName}}, Naming::Never,
+         "Takes an object out of the workspace.", RunClear},
+        {"export", {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}}, Naming::Never,
+         "Writes a dataset to a file of delimited text.", RunExport},
+        {"help", {}, Naming::Never,
+         "Lists the commands.", RunHelp},
+        {"import", {{"path", Kind::String}, {"delimiter", Kind::Delimiter}}, Naming::Always,
+         "Reads a dataset from a file of delimited text, whose first line holds the variable names.", RunImport},
+        {"load", {{"path", Kind::String}}, Naming::Never,
+         "Replaces the whole workspace by that of a workspace file.", RunLoad},
+        {"print", {{"name", Kind::ObjectName}}, Naming::Never,
+         "Shows an object on the console.", RunPrint},
+        {"save", {{"path", Kind::String}}, Naming::Never,
+         "Writes the whole workspace to a workspace file.", RunSave},
+    };
+    return commands;
+}
+
+std::string Command::Usage() const
+{
+    std::string usage = naming == Naming::Never ? "" : "name = ";
+    usage += name + "(";
+    bool isFirst = true;
+    for (auto const& parameter : parameters)
+    {
+        bool const isString = parameter.kind == ParameterKind::String || parameter.kind == ParameterKind::Delimiter;
+        auto const written = isString ? "\"" + parameter.name + "\"" : parameter.name;
+        usage += (isFirst ? "" : ", ") + (parameter.optional ? "[" + written + "]" : written);
+        isFirst = false;
+    }
+    return usage + ");";
+}
+
+Command const& CheckCall(Call const& call, bool named)
+{
+    auto const& command = FindCommand(call);
+    if (named && command.naming == Naming::Never)
+        throw ScriptError("\"" + command.name + "\" gives nothing that could have a name; expected "
+                              + command.Usage(),
+                          call.position);
+    if (!named && command.naming == Naming::Always)
+        throw ScriptError("what \"" + command.name + "\" gives needs a name; expected " + command.Usage(),
+                          call.position);
+
+    auto const& parameters = command.parameters;
+    auto const required = std::count_if(parameters.begin(), parameters.end(), [](auto const& p) { return !p.optional; });
+    auto const given = call.arguments.size();
+    if (given < static_cast<std::size_t>(required) || given > parameters.size())
+        throw ScriptError("\"" + command.name + "\" does not take " + std::to_string(given)
+                              + (given == 1 ? " argument" : " arguments") + "; expected " + command.Usage(),
+                          call.position);
+    for (std::size_t i = 0; i < given; ++i)
+        if (!Fits(call.arguments[i], parameters[i].kind))
+            throw ScriptError(std::string("expected ") + Expected(parameters[i].kind) + " as the "
+                                  + parameters[i].name + " in " + command.Usage() + " but found "
+                                  + Describe(call.arguments[i]),
+                              call.arguments[i].position);
+    return command;
+}
+
+Object FindObject(Argument const& argument, Workspace const& workspace)
+{
+    auto object = workspace.Find(argument.text);
+    if (std::holds_alternative<std::monostate>(object))
+        throw ScriptError("there is nothing called \"" + argument.text + "\" in the workspace"
+                              + Suggestion(argument.text, workspace.Names(), "names"),
+                          argument.position);
+    return object;
+}
+
+char Arguments::Delimiter(std::size_t index) const
+{
+    auto const& text = m_arguments[index].text;
+    return text == "\\t" ? '\t' : text.front();
+}
+
+Object Arguments::AnyObject(std::size_t index) const { return FindObject(m_arguments[index], m_workspace); }
+
+std::shared_ptr<Dataset> Arguments::DatasetAt(std::size_t index) const
+{
+    auto const object = AnyObject(index);
+    if (auto const* dataset = std::get_if<std::shared_ptr<Dataset>>(&object))
+        return *dataset;
+    throw ScriptError("expected the name of a dataset, but \"" + m_arguments[index].text + "\" is none",
+                      m_arguments[index].position);
+}
+
+Eigen::MatrixXd Arguments::MatrixAt(std::size_t index) const
+{
+    auto const& argument = m_arguments[index];
+    if (argument.kind != Argument::Kind::Name)
+        return argument.matrix;
+    auto const object = AnyObject(index);
+    if (auto const* matrix = std::get_if<std::shared_ptr<Eigen::MatrixXd>>(&object))
+        return **matrix;
+    throw ScriptError("expected a matrix, but \"" + argument.text + "\" is none", argument.position);
+}
+} // namespace workbench

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include <Eigen/Core>
+
+namespace workbench
+{
+/// Where a script's output goes: the console of a window, or the standard output.
+class Output
+{
+public:
+    virtual ~Output() = default;
+
+    /// Echoes the source of a statement before it runs.
+    virtual void Code(std::string const& text) = 0;
+
+    /// Plain text, line ends included.
+    virtual void Text(std::string const& text) = 0;
+
+    virtual void Matrix(Eigen::MatrixXd const& matrix) = 0;
+    virtual void Warning(std::string const& text) = 0;
+    virtual void Error(std::string const& text) = 0;
+
+    /// A horizontal rule.
+    virtual void Line() = 0;
+
+    /// The most lines that are worth printing, since older ones are dropped; 0 for no limit.
+    virtual int MaxLines() const { return 0; }
+};
+} // namespace workbench

@@ -1,0 +1,112 @@
+#include "workbench/script/Print.h"
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+#include <vector>
+
+#include "common/Number.h"
+#include "workbench/script/Output.h"
+
+namespace workbench
+{
+namespace
+{
+/// Text goes out in pieces of about this size, so that a long table needs no memory.
+constexpr std::size_t PIECE = 64 * 1024;
+
+/// The lines of a printed dataset that are no observations: an empty one, the title, the names.
+constexpr int HEAD_LINES = 3;
+
+std::string Count(Eigen::Index count, char const* one, char const* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+/// A label as a cell: a tab or a line end in it would break the table.
+std::string AsCell(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
+
+std::string Cell(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
+{
+    auto const labelled = dataset.labelledColumns.find(static_cast<int>(column));
+    if (labelled != dataset.labelledColumns.end())
+    {
+        auto const& labels = labelled->second.labels;
+        auto const index = static_cast<std::size_t>(row);
+        return index < labels.size() && !labels[index].empty() ? AsCell(labels[index]) : ".";
+    }
+    double const value = dataset.data(row, column);
+    return std::isnan(value) ? "." : zenqo::FormatNumber(value);
+}
+
+void PrintDataset(std::string const& name, Dataset const& dataset, Output& output)
+{
+    auto const rows = dataset.data.rows();
+    auto const cols = dataset.data.cols();
+    auto const room = output.MaxLines() > 0 ? std::max(1, output.MaxLines() - HEAD_LINES) : rows;
+    auto const first = std::max<Eigen::Index>(0, rows - room);
+
+    std::string text = "\nDataset " + name + ": " + Count(rows, "observation", "observations") + " of "
+                       + Count(std::max<Eigen::Index>(0, cols - 1), "variable", "variables");
+    if (first > 0)
+        text += ", of which the last " + std::to_string(rows - first) + " are shown";
+    text += "\nobs";
+    for (std::size_t j = 1; j < dataset.varNames.GetCount(); ++j)
+        text += "\t" + AsCell(std::string(dataset.varNames[j].utf8_str()));
+    text += "\n";
+    for (Eigen::Index i = first; i < rows; ++i)
+    {
+        text += std::to_string(i + 1);
+        for (Eigen::Index j = 1; j < cols; ++j)
+            text += "\t" + Cell(dataset, i, j);
+        text += "\n";
+        if (text.size() > PIECE)
+        {
+            output.Text(text);
+            text.clear();
+        }
+    }
+    output.Text(text);
+}
+
+void PrintMatrix(std::string const& name, Eigen::MatrixXd const& matrix, Output& output)
+{
+    output.Text("\nMatrix " + name + ": " + Count(matrix.rows(), "row", "rows") + ", "
+                + Count(matrix.cols(), "column", "columns") + "\n");
+    if (matrix.size() > 0)
+        output.Matrix(matrix);
+}
+
+void PrintModel(std::string const& name, Model const& model, Output& output)
+{
+    std::string text = "\nModel " + name + ": draws of "
+                       + Count(static_cast<Eigen::Index>(model.drawNames.size()), "quantity", "quantities") + "\n";
+    for (auto const& drawName : model.drawNames)
+        text += "  " + AsCell(drawName) + "\n";
+    output.Text(text);
+    for (auto const& [key, value] : model.results)
+        PrintMatrix(name + ", " + AsCell(key), value, output);
+}
+} // namespace
+
+void Print(std::string const& name, Object const& object, Output& output)
+{
+    std::visit(
+        [&](auto const& pointer)
+        {
+            using Pointer = std::decay_t<decltype(pointer)>;
+            if constexpr (std::is_same_v<Pointer, std::shared_ptr<Dataset>>)
+                PrintDataset(name, *pointer, output);
+            else if constexpr (std::is_same_v<Pointer, std::shared_ptr<Eigen::MatrixXd>>)
+                PrintMatrix(name, *pointer, output);
+            else if constexpr (std::is_same_v<Pointer, std::shared_ptr<Model>>)
+                PrintModel(name, *pointer, output);
+        },
+        object);
+}
+} // namespace workbench

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "workbench/engine/Workspace.h"
+
+namespace workbench
+{
+class Output;
+
+/// Prints an object under a title line that tells its name and size.
+///
+/// A dataset becomes a table with tabs between its cells, so that a selection of it copies as a
+/// table: a line of names, then a line for each observation, which begins with its number. Where
+/// the output keeps only so many lines the last observations are printed and the title says which.
+void Print(std::string const& name, Object const& object, Output& output);
+} // namespace workbench
