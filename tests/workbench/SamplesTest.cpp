@@ -1,0 +1,74 @@
+#include <catch2/catch.hpp>
+
+#include <cmath>
+#include <filesystem>
+
+#include <wx/utils.h>
+
+#include "workbench/Recorder.h"
+#include "workbench/Scratch.h"
+#include "workbench/engine/Workspace.h"
+#include "workbench/script/Interpreter.h"
+
+namespace fs = std::filesystem;
+
+namespace
+{
+/// A copy of the samples as the current folder, for the length of a test.
+class AmongSamples
+{
+public:
+    AmongSamples() : m_old(fs::current_path())
+    {
+        wxString root;
+        REQUIRE(wxGetEnv("ZENQO_SOURCE_DIR", &root));
+        fs::copy(root.ToStdString() + "/workbench/samples", m_scratch.Folder());
+        fs::current_path(m_scratch.Folder());
+    }
+    ~AmongSamples() { fs::current_path(m_old); }
+
+private:
+    Scratch m_scratch;
+    fs::path m_old;
+};
+} // namespace
+
+TEST_CASE("the tour runs and saves what it made")
+{
+    AmongSamples const here;
+    workbench::Workspace workspace;
+    Recorder output;
+    Meter meter;
+    workbench::Interpreter interpreter(workspace, output, meter);
+    REQUIRE(interpreter.Run(ReadFile("tour.zqs"), workbench::Interpreter::Echo::Statements));
+    CHECK(output.errors.empty());
+    CHECK(output.warnings.empty());
+    CHECK(output.codes.size() == 9);
+    CHECK(fs::exists("sample.zws"));
+
+    workspace = {};
+    REQUIRE(interpreter.Run("load(\"sample.zws\");", workbench::Interpreter::Echo::None));
+    CHECK(workspace.Names() == std::vector<std::string>{"airquality", "cars", "longley", "weights"});
+
+    auto const& longley = *workspace.datasets["longley"];
+    CHECK(longley.data.rows() == 16);
+    CHECK(longley.varNames.GetCount() == 8);
+    CHECK(longley.labelledColumns.empty());
+    // The sums of employment and of the years, and the mean of unemployment.
+    CHECK(longley.data.col(1).sum() == 1045072.0);
+    CHECK(longley.data.col(7).sum() == 31272.0);
+    CHECK(longley.data.col(4).mean() == Approx(3193.3125));
+
+    auto const& air = *workspace.datasets["airquality"];
+    CHECK(air.data.rows() == 153);
+    CHECK(air.data.col(1).array().isNaN().count() == 37);
+    CHECK(air.data.col(2).array().isNaN().count() == 7);
+    CHECK(air.data.col(4).mean() == Approx(77.88235));
+
+    auto const& cars = *workspace.datasets["cars"];
+    CHECK(cars.data.rows() == 32);
+    REQUIRE(cars.labelledColumns.size() == 1);
+    CHECK(cars.labelledColumns.at(1).labels.front() == "Mazda RX4");
+    CHECK(cars.labelledColumns.at(1).labels.back() == "Volvo 142E");
+    CHECK(cars.data.col(2).mean() == Approx(20.090625));
+}
