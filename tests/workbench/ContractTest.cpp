@@ -27,8 +27,9 @@ TEST_CASE("a legal name begins with a letter or an underscore and goes on with l
 {
     for (char const* const legal : {"a", "Z", "_", "__x__", "wages", "wages_2019", "a1", "_1"})
         CHECK(CheckID(legal));
-    for (char const* const illegal : {"", "1a", " a", "a ", "a b", "a.b", "a-b", "a,b", "\"a\"", "gr\xC3\xB6\xC3\x9F"
-                                                                                       "e",
+    for (char const* const illegal : {"", "1a", " a", "a ", "a b", "a.b", "a-b", "a,b", "\"a\"",
+                                      "gr\xC3\xB6\xC3\x9F"
+                                      "e",
                                       "a\n", "a\tb"})
         CHECK_FALSE(CheckID(illegal));
     CHECK_FALSE(CheckID(std::string("a\0b", 3)));
@@ -146,8 +147,9 @@ TEST_CASE("characters of UTF-8 are told from bytes that are none")
     CHECK(CharacterLength("\xC3\xA9", 0) == 2);
     CHECK(CharacterLength("\xE2\x82\xAC", 0) == 3);
     CHECK(CharacterLength("\xF0\x9F\x98\x80", 0) == 4);
-    for (char const* const bad : {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xC3(", "\xE0\x80\x80", "\xE2\x82",
-                                  "\xED\xA0\x80", "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xFF"})
+    for (char const* const bad :
+         {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xC3(", "\xE0\x80\x80", "\xE2\x82", "\xED\xA0\x80",
+          "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xFF"})
         CHECK_FALSE(workbench::IsUtf8(bad));
     CHECK(workbench::CountCharacters("a\xC3\xA9\xFFz") == 4);
     CHECK(workbench::FirstCharacters("\xC3\xA9z", 1) == "\xC3\xA9");

@@ -57,14 +57,16 @@ TEST_CASE("a file is imported, printed, exported and cleared")
     CHECK(wages.data.col(0) == Eigen::VectorXd::Ones(3));
 
     REQUIRE(desk.Run("print(wages);"));
-    CHECK(desk.output.text == "\nDataset wages: 3 observations of 3 variables\n"
-                              "obs\tperson\twage\teduc\n"
-                              "1\tann\t10.5\t12\n"
-                              "2\tbob\t.\t16\n"
-                              "3\t.\t8\t1.23457e+06\n");
+    CHECK(desk.output.text
+          == "\nDataset wages: 3 observations of 3 variables\n"
+             "obs\tperson\twage\teduc\n"
+             "1\tann\t10.5\t12\n"
+             "2\tbob\t.\t16\n"
+             "3\t.\t8\t1.23457e+06\n");
 
     REQUIRE(desk.Run("export(wages, \"" + scratch.Path("out.csv") + "\", \";\"); clear(wages);"));
-    CHECK(ReadFile(scratch.Path("out.csv")) == "person;wage;educ\n\"ann\";10.5;12\n\"bob\";;16\n\"\";8;1234567\n");
+    CHECK(ReadFile(scratch.Path("out.csv"))
+          == "person;wage;educ\n\"ann\";10.5;12\n\"bob\";;16\n\"\";8;1234567\n");
     CHECK(desk.workspace.datasets.empty());
     CHECK(desk.output.errors.empty());
     CHECK(desk.output.warnings.empty());
@@ -90,8 +92,9 @@ TEST_CASE("a console that keeps so many lines is shown the last observations")
     Desk desk;
     desk.output.maxLines = 6;
     REQUIRE(desk.Run("x = import(\"" + path + "\", \",\"); print(x);"));
-    CHECK(desk.output.text == "\nDataset x: 50 observations of 1 variable, of which the last 3 are shown\n"
-                              "obs\tx\n48\t2304\n49\t2401\n50\t2500\n");
+    CHECK(desk.output.text
+          == "\nDataset x: 50 observations of 1 variable, of which the last 3 are shown\n"
+             "obs\tx\n48\t2304\n49\t2401\n50\t2500\n");
 }
 
 TEST_CASE("labels keep to one cell when printed")
@@ -100,7 +103,8 @@ TEST_CASE("labels keep to one cell when printed")
     auto const path = scratch.Write("x.csv", "a,b\n\"two\nlines\",\"a\ttab\"\n");
     Desk desk;
     REQUIRE(desk.Run("x = import(\"" + path + "\", \",\"); print(x);"));
-    CHECK(desk.output.text == "\nDataset x: 1 observation of 2 variables\nobs\ta\tb\n1\ttwo lines\ta tab\n");
+    CHECK(desk.output.text
+          == "\nDataset x: 1 observation of 2 variables\nobs\ta\tb\n1\ttwo lines\ta tab\n");
 }
 
 TEST_CASE("matrices are made, copied, replaced and printed")
@@ -152,8 +156,9 @@ TEST_CASE("a model prints the names of its draws and its results")
     model->results["logML"] = Eigen::MatrixXd::Constant(1, 1, -12.5);
     desk.workspace.models["ols"] = model;
     REQUIRE(desk.Run("print(ols); second = ols; clear(ols);"));
-    CHECK(desk.output.text == "\nModel ols: draws of 2 quantities\n  beta1\n  sigma\n"
-                              "\nMatrix ols, logML: 1 row, 1 column\n");
+    CHECK(desk.output.text
+          == "\nModel ols: draws of 2 quantities\n  beta1\n  sigma\n"
+             "\nMatrix ols, logML: 1 row, 1 column\n");
     REQUIRE(desk.output.matrices.size() == 1);
     CHECK(desk.output.matrices[0](0, 0) == -12.5);
     CHECK(desk.workspace.models.count("second") == 1);
@@ -175,8 +180,10 @@ TEST_CASE("a script that cannot be read runs nothing")
 {
     Desk desk;
     CHECK(desk.Failure("a = [1];\nprint(a")
-          == "Line 2, column 8: expected \",\" or \")\" behind an argument of \"print\", but found the end of the script");
-    CHECK(desk.Failure("a = [1];\nprnt(a);") == "Line 2, column 1: there is no command \"prnt\"; did you mean \"print\"?");
+          == "Line 2, column 8: expected \",\" or \")\" behind an argument of \"print\", but found the "
+             "end of the script");
+    CHECK(desk.Failure("a = [1];\nprnt(a);")
+          == "Line 2, column 1: there is no command \"prnt\"; did you mean \"print\"?");
     CHECK(desk.workspace.matrices.empty());
     CHECK(desk.Run(""));
 }
@@ -184,27 +191,36 @@ TEST_CASE("a script that cannot be read runs nothing")
 TEST_CASE("a command is used as its entry says")
 {
     Desk desk;
-    CHECK(desk.Failure("xyzzy();") == "Line 1, column 1: there is no command \"xyzzy\"; the commands are: "
-                                      "clear, export, help, import, load, print, save");
-    CHECK(desk.Failure("load();") == "Line 1, column 1: \"load\" does not take 0 arguments; expected load(\"path\");");
+    CHECK(desk.Failure("xyzzy();")
+          == "Line 1, column 1: there is no command \"xyzzy\"; the commands are: "
+             "clear, export, help, import, load, print, save");
+    CHECK(desk.Failure("load();")
+          == "Line 1, column 1: \"load\" does not take 0 arguments; expected load(\"path\");");
     CHECK(desk.Failure("load(\"a\", \"b\");")
           == "Line 1, column 1: \"load\" does not take 2 arguments; expected load(\"path\");");
-    CHECK(desk.Failure("load(a);") == "Line 1, column 6: expected a string in double quotes as the path in "
-                                      "load(\"path\"); but found the name \"a\"");
+    CHECK(desk.Failure("load(a);")
+          == "Line 1, column 6: expected a string in double quotes as the path in "
+             "load(\"path\"); but found the name \"a\"");
     CHECK(desk.Failure("print(\"a\");")
-          == "Line 1, column 7: expected the name of an object as the name in print(name); but found the string \"a\"");
+          == "Line 1, column 7: expected the name of an object as the name in print(name); but found "
+             "the string \"a\"");
     CHECK(desk.Failure("print([1]);")
-          == "Line 1, column 7: expected the name of an object as the name in print(name); but found a matrix");
+          == "Line 1, column 7: expected the name of an object as the name in print(name); but found a "
+             "matrix");
     CHECK(desk.Failure("x = import(\"a\", \"ab\");")
-          == "Line 1, column 17: expected a string of one character, or \"\\t\" for the tab, as the delimiter in "
+          == "Line 1, column 17: expected a string of one character, or \"\\t\" for the tab, as the "
+             "delimiter in "
              "name = import(\"path\", \"delimiter\"); but found the string \"ab\"");
     CHECK(desk.Failure("x = import(\"a\", \"\");")
-          == "Line 1, column 17: expected a string of one character, or \"\\t\" for the tab, as the delimiter in "
+          == "Line 1, column 17: expected a string of one character, or \"\\t\" for the tab, as the "
+             "delimiter in "
              "name = import(\"path\", \"delimiter\"); but found the string \"\"");
-    CHECK(desk.Failure("import(\"a\", \",\");") == "Line 1, column 1: what \"import\" gives needs a name; expected "
-                                                   "name = import(\"path\", \"delimiter\");");
-    CHECK(desk.Failure("x = load(\"a\");")
-          == "Line 1, column 5: \"load\" gives nothing that could have a name; expected load(\"path\");");
+    CHECK(desk.Failure("import(\"a\", \",\");")
+          == "Line 1, column 1: what \"import\" gives needs a name; expected "
+             "name = import(\"path\", \"delimiter\");");
+    CHECK(
+        desk.Failure("x = load(\"a\");")
+        == "Line 1, column 5: \"load\" gives nothing that could have a name; expected load(\"path\");");
     CHECK(desk.Failure("__ZenqoEmptyDataset__ = [1];")
           == "Line 1, column 1: the name \"__ZenqoEmptyDataset__\" is kept for the program's own use");
 }
@@ -216,9 +232,11 @@ TEST_CASE("a name that is not there is told with what is")
           == "Line 1, column 7: there is nothing called \"x\" in the workspace; there are no names");
     REQUIRE(desk.Run("wages = [1]; prices = [2];"));
     CHECK(desk.Failure("a = wagse;")
-          == "Line 1, column 5: there is nothing called \"wagse\" in the workspace; did you mean \"wages\"?");
+          == "Line 1, column 5: there is nothing called \"wagse\" in the workspace; did you mean "
+             "\"wages\"?");
     CHECK(desk.Failure("clear(x);")
-          == "Line 1, column 7: there is nothing called \"x\" in the workspace; the names are: prices, wages");
+          == "Line 1, column 7: there is nothing called \"x\" in the workspace; the names are: prices, "
+             "wages");
     CHECK(desk.Failure("export(wages, \"/tmp/x\", \",\");")
           == "Line 1, column 8: expected the name of a dataset, but \"wages\" is none");
 }
@@ -286,15 +304,18 @@ TEST_CASE("the changed names of an import are one warning")
     Desk desk;
     REQUIRE(desk.Run("x = import(\"" + path + "\", \",\");"));
     CHECK(desk.output.warnings
-          == std::vector<std::string>{"Names in \"" + path
-                                      + "\" were changed to make them legal and unique: \"a b\" to \"a_b\", \"a b\" to "
-                                        "\"a_b_2\", \"\" to \"unnamed\", \"x\" to \"x_2\"."});
+          == std::vector<std::string>{
+              "Names in \"" + path
+              + "\" were changed to make them legal and unique: \"a b\" to \"a_b\", \"a b\" to "
+                "\"a_b_2\", \"\" to \"unnamed\", \"x\" to \"x_2\"."});
 }
 
 TEST_CASE("help shows each command with its use")
 {
     Desk desk;
     REQUIRE(desk.Run("help();"));
-    CHECK(desk.output.text.find("\nname = import(\"path\", \"delimiter\");\n    Reads a dataset") != std::string::npos);
-    CHECK(desk.output.text.find("\nprint(name);\n    Shows an object on the console.\n") != std::string::npos);
+    CHECK(desk.output.text.find("\nname = import(\"path\", \"delimiter\");\n    Reads a dataset")
+          != std::string::npos);
+    CHECK(desk.output.text.find("\nprint(name);\n    Shows an object on the console.\n")
+          != std::string::npos);
 }

@@ -72,3 +72,16 @@ TEST_CASE("the tour runs and saves what it made")
     CHECK(cars.labelledColumns.at(1).labels.back() == "Volvo 142E");
     CHECK(cars.data.col(2).mean() == Approx(20.090625));
 }
+
+TEST_CASE("the workspace file among the samples is the one that the tour saves")
+{
+    AmongSamples const here;
+    auto const kept = ReadFile("sample.zws");
+    workbench::Workspace workspace;
+    Recorder output;
+    workbench::Progress progress;
+    workbench::Interpreter interpreter(workspace, output, progress);
+    REQUIRE(interpreter.Run(ReadFile("tour.zqs"), workbench::Interpreter::Echo::None));
+    CHECK_FALSE(kept.empty());
+    CHECK(ReadFile("sample.zws") == kept);
+}

@@ -98,12 +98,14 @@ void AtomicFile::CheckTarget(unsigned& mode) const
 void AtomicFile::RemoveLeftovers() const
 {
     std::error_code error;
-    for (fs::directory_iterator entry(m_folder, error), end; !error && entry != end; entry.increment(error))
+    for (fs::directory_iterator entry(m_folder, error), end; !error && entry != end;
+         entry.increment(error))
     {
         auto const name = entry->path().filename().string();
         if (name.compare(0, m_prefix.size(), m_prefix) != 0 || name.size() != m_prefix.size() + 6)
             continue;
-        int const descriptor = open(entry->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+        int const descriptor =
+            open(entry->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
         // A writer at work holds the lock of its file.
         if (descriptor >= 0 && flock(descriptor, LOCK_EX | LOCK_NB) == 0)
             unlink(entry->path().c_str());

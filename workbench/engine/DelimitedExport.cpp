@@ -75,7 +75,8 @@ private:
 void CheckText(std::string_view text, std::string const& owner)
 {
     if (!IsUtf8(text) || text.find('\0') != std::string_view::npos)
-        throw Error(owner + " holds a text that is not UTF-8 or has a NUL character: it cannot be exported");
+        throw Error(owner
+                    + " holds a text that is not UTF-8 or has a NUL character: it cannot be exported");
 }
 
 void CheckDataset(Dataset const& dataset, std::string const& owner)
@@ -139,7 +140,8 @@ void ExportDelimited(Dataset const& dataset, std::string const& path, char delim
             double const value = dataset.data(i, static_cast<Eigen::Index>(j));
             auto const row = static_cast<std::size_t>(i);
             if (labels[j])
-                writer.PutQuoted(row < labels[j]->labels.size() ? labels[j]->labels[row] : std::string());
+                writer.PutQuoted(row < labels[j]->labels.size() ? labels[j]->labels[row]
+                                                                : std::string());
             else if (std::isnan(value))
                 writer.Put(missing);
             else

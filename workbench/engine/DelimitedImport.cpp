@@ -81,8 +81,10 @@ public:
     {
         if (m_changed == 0)
             return {};
-        auto const rest = m_changed > LISTED ? " and " + std::to_string(m_changed - LISTED) + " more" : "";
-        return "Names in " + Quoted(path) + " were changed to make them legal and unique: " + m_changes + rest + ".";
+        auto const rest =
+            m_changed > LISTED ? " and " + std::to_string(m_changed - LISTED) + " more" : "";
+        return "Names in " + Quoted(path) + " were changed to make them legal and unique: " + m_changes
+               + rest + ".";
     }
 
 private:
@@ -92,7 +94,8 @@ private:
     {
         if (++m_changed > LISTED)
             return;
-        m_changes += (m_changes.empty() ? "" : ", ") + Quoted(std::string(written)) + " to " + Quoted(unique);
+        m_changes +=
+            (m_changes.empty() ? "" : ", ") + Quoted(std::string(written)) + " to " + Quoted(unique);
     }
 
     std::vector<std::string> m_names;
@@ -149,7 +152,10 @@ struct Table
         return dataset->data(row, static_cast<Eigen::Index>(column + 1));
     }
 
-    [[noreturn]] void FailChanged() const { throw Error(Quoted(file.Path()) + " changed while it was read"); }
+    [[noreturn]] void FailChanged() const
+    {
+        throw Error(Quoted(file.Path()) + " changed while it was read");
+    }
 };
 
 std::string Count(std::size_t count, char const* what)
@@ -189,7 +195,8 @@ public:
     void Finish()
     {
         if (!m_table.dataset)
-            throw Error(Quoted(m_table.file.Path()) + " is empty: its first line must hold the names of variables");
+            throw Error(Quoted(m_table.file.Path())
+                        + " is empty: its first line must hold the names of variables");
         if (m_row == 0)
             throw Error(Quoted(m_table.file.Path()) + " holds names of variables, but no observations");
         for (auto const& column : m_table.columns)
@@ -284,7 +291,8 @@ public:
     void Finish() const
     {
         for (auto const& column : m_table.columns)
-            if (column.readAgain && column.labelled.labels.size() != static_cast<std::size_t>(m_table.Rows()))
+            if (column.readAgain
+                && column.labelled.labels.size() != static_cast<std::size_t>(m_table.Rows()))
                 m_table.FailChanged();
     }
 
@@ -301,8 +309,9 @@ void CheckDelimiter(char delimiter)
     bool const alphanumeric = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
     bool const control = (c < ' ' && c != '\t') || c > '~';
     if (alphanumeric || control || std::string_view("\"+-._").find(delimiter) != std::string_view::npos)
-        throw Error("the delimiter must be a comma, a semicolon, a tab or another character that stands in "
-                    "no number and no name");
+        throw Error(
+            "the delimiter must be a comma, a semicolon, a tab or another character that stands in "
+            "no number and no name");
 }
 
 Import ImportDelimited(std::string const& path, char delimiter, Progress& progress)
@@ -320,7 +329,8 @@ Import ImportDelimited(std::string const& path, char delimiter, Progress& progre
     ReadRecords(file, survey, delimiter, first, scope, SURVEYED, READ);
     first.Finish();
 
-    if (std::any_of(table.columns.begin(), table.columns.end(), [](auto const& c) { return c.readAgain; }))
+    if (std::any_of(table.columns.begin(), table.columns.end(),
+                    [](auto const& c) { return c.readAgain; }))
     {
         SecondReading second(table);
         ReadRecords(file, survey, delimiter, second, scope, READ, 1.0);
@@ -330,7 +340,8 @@ Import ImportDelimited(std::string const& path, char delimiter, Progress& progre
 
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         if (table.columns[i].isText)
-            table.dataset->labelledColumns.emplace(static_cast<int>(i + 1), std::move(table.columns[i].labelled));
+            table.dataset->labelledColumns.emplace(static_cast<int>(i + 1),
+                                                   std::move(table.columns[i].labelled));
     return {std::move(table.dataset), table.names.Warning(path)};
 }
 } // namespace workbench

@@ -23,7 +23,8 @@ Import ImportDelimited(std::string const& path, char delimiter, Progress& progre
 /// Writes `dataset` as delimited text, whole or not at all (see AtomicFile). What an import then
 /// reads is equal to the last bit.
 /// Throws an Error if the file cannot be written or could not bring the dataset back.
-void ExportDelimited(Dataset const& dataset, std::string const& path, char delimiter, Progress& progress);
+void ExportDelimited(Dataset const& dataset, std::string const& path, char delimiter,
+                     Progress& progress);
 
 /// Throws an Error if `delimiter` could be taken for a part of a number or a name, or for a quote.
 void CheckDelimiter(char delimiter);

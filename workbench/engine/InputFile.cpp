@@ -60,7 +60,8 @@ std::size_t InputFile::ReadAt(std::uint64_t offset, char* buffer, std::size_t si
     std::size_t done = 0;
     while (done < size)
     {
-        auto const got = pread(m_descriptor, buffer + done, size - done, static_cast<off_t>(offset + done));
+        auto const got =
+            pread(m_descriptor, buffer + done, size - done, static_cast<off_t>(offset + done));
         if (got == 0)
             break;
         if (got > 0)

@@ -117,8 +117,9 @@ public:
                 if (length == 0 && !last && block.size() - position < 4)
                     return position;
                 if (length == 0)
-                    throw Error(Describe(m_file, m_lines.At(offset + position))
-                                + "a byte that is not UTF-8; save the file as UTF-8 and import it again");
+                    throw Error(
+                        Describe(m_file, m_lines.At(offset + position))
+                        + "a byte that is not UTF-8; save the file as UTF-8 and import it again");
                 position += length - 1;
                 m_filled = true;
                 break;
@@ -245,7 +246,8 @@ private:
 
     TextPlace SkipBlanks(TextPlace place) const
     {
-        for (char c; m_file.ReadAt(place.offset, &c, 1) == 1 && (c == ' ' || c == '\t') && c != m_delimiter;)
+        for (char c;
+             m_file.ReadAt(place.offset, &c, 1) == 1 && (c == ' ' || c == '\t') && c != m_delimiter;)
             ++place.offset;
         return place;
     }

@@ -29,8 +29,9 @@ Walk WalkCharacters(std::string_view text, std::size_t count)
 
 std::size_t CharacterLength(std::string_view text, std::size_t position)
 {
-    auto const byte = [&](std::size_t offset) -> unsigned char
-    { return position + offset < text.size() ? static_cast<unsigned char>(text[position + offset]) : 0; };
+    auto const byte = [&](std::size_t offset) -> unsigned char {
+        return position + offset < text.size() ? static_cast<unsigned char>(text[position + offset]) : 0;
+    };
 
     unsigned char const lead = byte(0);
     if (position >= text.size())
@@ -69,7 +70,10 @@ bool IsUtf8(std::string_view text)
     return true;
 }
 
-std::size_t CountCharacters(std::string_view text) { return WalkCharacters(text, text.size()).characters; }
+std::size_t CountCharacters(std::string_view text)
+{
+    return WalkCharacters(text, text.size()).characters;
+}
 
 std::string_view FirstCharacters(std::string_view text, std::size_t count)
 {

@@ -29,6 +29,10 @@ using nlohmann::json;
 constexpr char const* MANIFEST = "workspace.json";
 constexpr char const* FORMAT = "Zenqo workspace";
 constexpr int VERSION = 1;
+
+/// The first of January 1980, as archives count days.
+constexpr zip_uint16_t FIRST_DAY = 0x21;
+
 constexpr std::size_t BLOCK = 256 * 1024;
 
 std::string EntryName(char const* folder, std::size_t index)
@@ -64,8 +68,8 @@ json DescribeDataset(std::string const& name, Dataset const& dataset, std::strin
     auto const owner = "dataset " + Quoted(name);
     auto const columns = static_cast<std::size_t>(dataset.data.cols());
     if (dataset.varNames.GetCount() != columns)
-        throw Error(owner + " has " + std::to_string(dataset.varNames.GetCount()) + " variable names and "
-                    + std::to_string(columns) + " columns: it cannot be saved");
+        throw Error(owner + " has " + std::to_string(dataset.varNames.GetCount())
+                    + " variable names and " + std::to_string(columns) + " columns: it cannot be saved");
 
     json variables = json::array();
     for (auto const& variable : dataset.varNames)
@@ -197,7 +201,8 @@ public:
     {
         auto const head = WriteNumpyHead({matrix.rows(), matrix.cols(), true});
         auto const* const data = reinterpret_cast<char const*>(matrix.data());
-        return Add(std::move(name), head, data, static_cast<std::size_t>(matrix.size()) * sizeof(double));
+        return Add(std::move(name), head, data,
+                   static_cast<std::size_t>(matrix.size()) * sizeof(double));
     }
 
     std::string Add(std::string name, std::string text, char const* data = nullptr, std::size_t size = 0)
@@ -244,8 +249,8 @@ private:
         { return reinterpret_cast<zip_uint8_t*>(const_cast<char*>(data)); };
         zip_buffer_fragment_t const fragments[] = {{bytes(entry.text.data()), entry.text.size()},
                                                    {bytes(entry.data), entry.size}};
-        auto* const source
-            = zip_source_buffer_fragment_create(fragments, entry.size > 0 ? 2 : 1, 0, zip_get_error(archive));
+        auto* const source = zip_source_buffer_fragment_create(fragments, entry.size > 0 ? 2 : 1, 0,
+                                                               zip_get_error(archive));
         if (!source)
             return false;
         auto const index = zip_file_add(archive, entry.name.c_str(), source, ZIP_FL_ENC_UTF_8);
@@ -254,7 +259,10 @@ private:
             zip_source_free(source);
             return false;
         }
-        return zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_STORE, 0) == 0;
+        // Without the time of day in it, the same workspace always makes the same file.
+        auto const number = static_cast<zip_uint64_t>(index);
+        return zip_set_file_compression(archive, number, ZIP_CM_STORE, 0) == 0
+               && zip_file_set_dostime(archive, number, 0, FIRST_DAY, 0) == 0;
     }
 
     [[noreturn]] static void Abandon(zip_t* archive, Target const& target)
@@ -334,7 +342,10 @@ public:
     Archive& operator=(Archive const&) = delete;
 
     /// True once every entry was read that the archive holds.
-    bool Exhausted() const { return static_cast<zip_int64_t>(m_read.size()) == zip_get_num_entries(m_archive, 0); }
+    bool Exhausted() const
+    {
+        return static_cast<zip_int64_t>(m_read.size()) == zip_get_num_entries(m_archive, 0);
+    }
 
     std::string ReadText(std::string const& name)
     {
@@ -434,7 +445,8 @@ private:
 
     static NumpyHead ReadHead(Entry& entry, std::string const& name)
     {
-        Damage const damage("the entry " + Quoted(name) + " is not an array of numbers in two dimensions");
+        Damage const damage("the entry " + Quoted(name)
+                            + " is not an array of numbers in two dimensions");
         if (entry.Size() < NUMPY_PREAMBLE)
             throw damage;
         std::string text(NUMPY_PREAMBLE, '\0');
@@ -504,7 +516,8 @@ std::shared_ptr<Model> ReadModel(json const& entry, Archive& archive)
     for (auto const& result : ArrayAt(entry, "results"))
     {
         CheckedKeys(result, {"name", "file"});
-        if (!model->results.emplace(Text(result.at("name")), archive.ReadMatrix(Text(result.at("file")))).second)
+        if (!model->results.emplace(Text(result.at("name")), archive.ReadMatrix(Text(result.at("file"))))
+                 .second)
             throw Damage("its manifest has one name for two results");
     }
     return model;
@@ -519,8 +532,8 @@ json ParseManifest(std::string const& text)
     if (!version.is_number_unsigned())
         throw Damage("its manifest names no version");
     if (version != VERSION)
-        throw Damage("it is of version " + version.dump() + ", and only version " + std::to_string(VERSION)
-                     + " is known here");
+        throw Damage("it is of version " + version.dump() + ", and only version "
+                     + std::to_string(VERSION) + " is known here");
     return CheckedKeys(manifest, {"format", "version", "datasets", "matrices", "models"});
 }
 
@@ -587,8 +600,11 @@ void SaveWorkspace(Workspace const& workspace, std::string const& path, Progress
                           {"results", results}});
     }
 
-    json const manifest = {{"format", FORMAT},     {"version", VERSION}, {"datasets", datasets},
-                           {"matrices", matrices}, {"models", models}};
+    json const manifest = {{"format", FORMAT},
+                           {"version", VERSION},
+                           {"datasets", datasets},
+                           {"matrices", matrices},
+                           {"models", models}};
     contents.Add(MANIFEST, manifest.dump(1) + "\n");
 
     Target target(path, scope, contents.Bytes());

@@ -24,7 +24,8 @@ Outcome RunClear(Context const&, Arguments const& arguments)
 
 Outcome RunExport(Context const& context, Arguments const& arguments)
 {
-    ExportDelimited(*arguments.DatasetAt(0), arguments.Text(1), arguments.Delimiter(2), context.progress);
+    ExportDelimited(*arguments.DatasetAt(0), arguments.Text(1), arguments.Delimiter(2),
+                    context.progress);
     return {};
 }
 
@@ -150,20 +151,37 @@ std::vector<Command> const& Commands()
 {
     using Kind = ParameterKind;
     static std::vector<Command> const commands = {
-        {"clear", {{"name", Kind::ObjectName}}, Naming::Never,
-         "Takes an object out of the workspace.", RunClear},
-        {"export", {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}}, Naming::Never,
-         "Writes a dataset to a file of delimited text.", RunExport},
-        {"help", {}, Naming::Never,
-         "Lists the commands.", RunHelp},
-        {"import", {{"path", Kind::String}, {"delimiter", Kind::Delimiter}}, Naming::Always,
-         "Reads a dataset from a file of delimited text, whose first line holds the variable names.", RunImport},
-        {"load", {{"path", Kind::String}}, Naming::Never,
-         "Replaces the whole workspace by that of a workspace file.", RunLoad},
-        {"print", {{"name", Kind::ObjectName}}, Naming::Never,
-         "Shows an object on the console.", RunPrint},
-        {"save", {{"path", Kind::String}}, Naming::Never,
-         "Writes the whole workspace to a workspace file.", RunSave},
+        {"clear",
+         {{"name", Kind::ObjectName}},
+         Naming::Never,
+         "Takes an object out of the workspace.",
+         RunClear},
+        {"export",
+         {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}},
+         Naming::Never,
+         "Writes a dataset to a file of delimited text.",
+         RunExport},
+        {"help", {}, Naming::Never, "Lists the commands.", RunHelp},
+        {"import",
+         {{"path", Kind::String}, {"delimiter", Kind::Delimiter}},
+         Naming::Always,
+         "Reads a dataset from a file of delimited text, whose first line holds the variable names.",
+         RunImport},
+        {"load",
+         {{"path", Kind::String}},
+         Naming::Never,
+         "Replaces the whole workspace by that of a workspace file.",
+         RunLoad},
+        {"print",
+         {{"name", Kind::ObjectName}},
+         Naming::Never,
+         "Shows an object on the console.",
+         RunPrint},
+        {"save",
+         {{"path", Kind::String}},
+         Naming::Never,
+         "Writes the whole workspace to a workspace file.",
+         RunSave},
     };
     return commands;
 }
@@ -175,7 +193,8 @@ std::string Command::Usage() const
     bool isFirst = true;
     for (auto const& parameter : parameters)
     {
-        bool const isString = parameter.kind == ParameterKind::String || parameter.kind == ParameterKind::Delimiter;
+        bool const isString =
+            parameter.kind == ParameterKind::String || parameter.kind == ParameterKind::Delimiter;
         auto const written = isString ? "\"" + parameter.name + "\"" : parameter.name;
         usage += (isFirst ? "" : ", ") + (parameter.optional ? "[" + written + "]" : written);
         isFirst = false;
@@ -191,15 +210,18 @@ Command const& CheckCall(Call const& call, bool named)
                               + command.Usage(),
                           call.position);
     if (!named && command.naming == Naming::Always)
-        throw ScriptError("what \"" + command.name + "\" gives needs a name; expected " + command.Usage(),
+        throw ScriptError("what \"" + command.name + "\" gives needs a name; expected "
+                              + command.Usage(),
                           call.position);
 
     auto const& parameters = command.parameters;
-    auto const required = std::count_if(parameters.begin(), parameters.end(), [](auto const& p) { return !p.optional; });
+    auto const required =
+        std::count_if(parameters.begin(), parameters.end(), [](auto const& p) { return !p.optional; });
     auto const given = call.arguments.size();
     if (given < static_cast<std::size_t>(required) || given > parameters.size())
         throw ScriptError("\"" + command.name + "\" does not take " + std::to_string(given)
-                              + (given == 1 ? " argument" : " arguments") + "; expected " + command.Usage(),
+                              + (given == 1 ? " argument" : " arguments") + "; expected "
+                              + command.Usage(),
                           call.position);
     for (std::size_t i = 0; i < given; ++i)
         if (!Fits(call.arguments[i], parameters[i].kind))
@@ -226,7 +248,10 @@ char Arguments::Delimiter(std::size_t index) const
     return text == "\\t" ? '\t' : text.front();
 }
 
-Object Arguments::AnyObject(std::size_t index) const { return FindObject(m_arguments[index], m_workspace); }
+Object Arguments::AnyObject(std::size_t index) const
+{
+    return FindObject(m_arguments[index], m_workspace);
+}
 
 std::shared_ptr<Dataset> Arguments::DatasetAt(std::size_t index) const
 {

@@ -66,10 +66,10 @@ private:
 /// throws has changed nothing.
 struct Outcome
 {
-    Object result;                                         ///< Goes under the statement's name.
-    std::vector<std::pair<std::string, Object>> assigned;  ///< Further objects by name.
-    std::vector<std::string> removed;                      ///< Names that go.
-    std::optional<Workspace> workspace;                    ///< Takes the place of all that was there.
+    Object result;                                        ///< Goes under the statement's name.
+    std::vector<std::pair<std::string, Object>> assigned; ///< Further objects by name.
+    std::vector<std::string> removed;                     ///< Names that go.
+    std::optional<Workspace> workspace;                   ///< Takes the place of all that was there.
 };
 
 /// Whether a statement gives a name to what the command returns.

@@ -86,8 +86,8 @@ bool Interpreter::Run(std::string const& script, Echo echo)
     {
         message = error.what();
     }
-    m_output.Error("Line " + std::to_string(where.line) + ", column " + std::to_string(where.column) + ": "
-                   + message);
+    m_output.Error("Line " + std::to_string(where.line) + ", column " + std::to_string(where.column)
+                   + ": " + message);
     return false;
 }
 

@@ -117,9 +117,13 @@ Token Lexer::Next()
     token.end = m_offset;
     if (token.kind != Token::Kind::String)
         token.text = m_script.substr(token.begin, token.end - token.begin);
-    if (token.kind == Token::Kind::Symbol && std::string_view("()[],;=+-").find(c) == std::string_view::npos)
-        throw ScriptError("expected a name, a string in double quotes, a number or one of ( ) [ ] , ; = + -, "
-                          "but found \"" + token.text + "\"", token.position);
+    if (token.kind == Token::Kind::Symbol
+        && std::string_view("()[],;=+-").find(c) == std::string_view::npos)
+        throw ScriptError(
+            "expected a name, a string in double quotes, a number or one of ( ) [ ] , ; = + -, "
+            "but found \""
+                + token.text + "\"",
+            token.position);
     return token;
 }
 
@@ -131,9 +135,10 @@ void Lexer::TakeString(Token& token)
     while (m_offset < m_script.size() && Peek() != '"' && Peek() != '\n' && Peek() != '\r')
         Step();
     if (Peek() != '"' || m_offset == m_script.size())
-        throw ScriptError("expected a double quote at the end of the string that begins here; a string ends "
-                          "on its line, and a path that holds a double quote cannot be written in a script",
-                          token.position);
+        throw ScriptError(
+            "expected a double quote at the end of the string that begins here; a string ends "
+            "on its line, and a path that holds a double quote cannot be written in a script",
+            token.position);
     token.text = m_script.substr(begin, m_offset - begin);
     Step();
 }

@@ -53,7 +53,8 @@ std::string Nearest(std::string const& name, std::vector<std::string> const& kno
     return nearest;
 }
 
-std::string Suggestion(std::string const& name, std::vector<std::string> const& known, std::string const& what)
+std::string Suggestion(std::string const& name, std::vector<std::string> const& known,
+                       std::string const& what)
 {
     auto const nearest = Nearest(name, known);
     if (!nearest.empty())

@@ -11,7 +11,10 @@ namespace
 class Parser
 {
 public:
-    explicit Parser(std::string const& script) : m_script(script), m_lexer(script), m_token(m_lexer.Next()) {}
+    explicit Parser(std::string const& script)
+        : m_script(script), m_lexer(script), m_token(m_lexer.Next())
+    {
+    }
 
     std::vector<Statement> Script()
     {
@@ -37,10 +40,12 @@ private:
     [[noreturn]] void FailExpecting(std::string const& what) const
     {
         std::string message = "expected " + what + ", but found " + m_token.Describe();
-        if (m_afterString && (m_token.kind == Token::Kind::Name || m_token.kind == Token::Kind::String
-                              || m_token.kind == Token::Kind::Number))
-            message += "; a string ends at its second double quote, and a path that holds a double quote "
-                       "cannot be written in a script";
+        if (m_afterString
+            && (m_token.kind == Token::Kind::Name || m_token.kind == Token::Kind::String
+                || m_token.kind == Token::Kind::Number))
+            message +=
+                "; a string ends at its second double quote, and a path that holds a double quote "
+                "cannot be written in a script";
         throw ScriptError(message, m_token.position);
     }
 
@@ -108,7 +113,8 @@ private:
         argument.position = m_token.position;
         if (m_token.kind == Token::Kind::String || m_token.kind == Token::Kind::Name)
         {
-            argument.kind = m_token.kind == Token::Kind::String ? Argument::Kind::String : Argument::Kind::Name;
+            argument.kind =
+                m_token.kind == Token::Kind::String ? Argument::Kind::String : Argument::Kind::Name;
             argument.text = m_token.text;
             Advance();
         }
@@ -161,7 +167,8 @@ private:
             while (TakeIf(','));
             auto const width = static_cast<Eigen::Index>(values.size() - before);
             if (rows > 0 && width != cols)
-                throw ScriptError("expected " + std::to_string(cols) + " elements in each row of the matrix, but row "
+                throw ScriptError("expected " + std::to_string(cols)
+                                      + " elements in each row of the matrix, but row "
                                       + std::to_string(rows + 1) + " has " + std::to_string(width),
                                   rowPosition);
             cols = width;

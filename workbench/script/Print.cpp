@@ -84,8 +84,9 @@ void PrintMatrix(std::string const& name, Eigen::MatrixXd const& matrix, Output&
 
 void PrintModel(std::string const& name, Model const& model, Output& output)
 {
-    std::string text = "\nModel " + name + ": draws of "
-                       + Count(static_cast<Eigen::Index>(model.drawNames.size()), "quantity", "quantities") + "\n";
+    std::string text =
+        "\nModel " + name + ": draws of "
+        + Count(static_cast<Eigen::Index>(model.drawNames.size()), "quantity", "quantities") + "\n";
     for (auto const& drawName : model.drawNames)
         text += "  " + AsCell(drawName) + "\n";
     output.Text(text);
