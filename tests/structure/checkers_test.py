@@ -4,12 +4,14 @@ checkers_test.py ROOT BUILD
 """
 
 import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
 from pathlib import Path
 
 import documentation
+import exports
 import include_direction
 import lone_headers
 import public_classes
@@ -160,6 +162,50 @@ class LoneHeaders(Tree):
         self.assertEqual(len(findings), 1)
         self.assertIn("common/Help.h: does not compile alone", findings[0])
         self.assertIn("std", findings[0])
+
+
+class Exports(Tree):
+    SOURCE = """
+#define API __attribute__((visibility("default")))
+struct API Alpha { Alpha(); virtual ~Alpha(); virtual void Count(); };
+struct Helper { Helper(); virtual ~Helper(); };
+Alpha::Alpha() {}
+Alpha::~Alpha() { Helper helper; }
+void Alpha::Count() {}
+Helper::Helper() {}
+Helper::~Helper() {}
+"""
+
+    def check(self, source, classes=("Alpha",)):
+        library = self.root / "libsmall.so"
+        subprocess.run(["g++", "-shared", "-fPIC", "-fvisibility=hidden", "-x", "c++", "-",
+                        "-o", str(library)], input=source, text=True, check=True)
+        return exports.check(library, set(classes))
+
+    def test_a_good_library(self):
+        self.assertEqual(self.check(self.SOURCE), [])
+
+    def test_a_helper_that_gets_out(self):
+        findings = self.check(self.SOURCE.replace("struct Helper", "struct API Helper"))
+        self.assertIn("lets out Helper::Helper()", findings)
+
+    def test_a_function_that_gets_out(self):
+        self.assertEqual(self.check(self.SOURCE + "API int loose(int a) { return a; }"),
+                         ["lets out loose(int)"])
+
+    def test_a_class_that_stays_inside(self):
+        self.assertEqual(self.check(self.SOURCE, ("Alpha", "Beta")), ["does not let out Beta"])
+
+    def test_the_contract_may_be_asked_for(self):
+        self.assertEqual(self.check(
+            self.SOURCE + "#include <string>\nbool CheckID(std::string const&);\n"
+            "namespace Zenqo_SYSTEM_NAMESPACE { extern bool RUN_GUI; }\n"
+            "API bool Alpha_ok() { return CheckID(\"a\") && Zenqo_SYSTEM_NAMESPACE::RUN_GUI; }"),
+            ["lets out Alpha_ok()"])
+
+    def test_anything_else_may_not(self):
+        self.assertEqual(self.check(self.SOURCE.replace("Helper helper;", "void other(int); other(1);")),
+                         ["asks for other(int)"])
 
 
 class Documentation(Tree):
