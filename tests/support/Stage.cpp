@@ -16,7 +16,8 @@ Stage::Stage(wxSize size)
 {
     m_frame->Show();
     Pump(20);
-    PumpUntil([this] { return m_frame->IsActive(); }, 2000);
+    // While the window manager puts its decoration around the window, it is a few pixels small.
+    PumpUntil([this, size] { return m_frame->IsActive() && m_frame->GetSize() == size; }, 2000);
 }
 
 Stage::~Stage()
