@@ -5,6 +5,13 @@ set(zenqo_public_classes
   console/ZenqoConsole
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  panes/DataGrid
+  panes/DatasetsPane
+  panes/MatricesPane
+  panes/MatrixGrid
+  panes/ModelsPane
+  panes/ProgressDialog
+  panes/StatusBar
   pickers/DatasetPicker
   pickers/MatrixPicker
   pickers/ModelPicker)
@@ -23,8 +30,13 @@ set(zenqo_private_sources
   common/ChoiceRow.cpp
   common/Delimiter.cpp
   common/DialogFrame.cpp
+  common/DisplayGrid.cpp
   common/DroppedFile.cpp
+  common/LabelColours.cpp
+  common/NameList.cpp
   common/Number.cpp
+  common/Records.cpp
+  common/RemainingTime.cpp
   common/SaveFileBox.cpp
   common/ScriptEvent.cpp
   common/TexText.cpp
