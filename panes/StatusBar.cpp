@@ -129,9 +129,14 @@ void StatusBar::FollowMouse()
         m_progress->Show(false);
         return;
     }
-    wxPoint const corner = m_gauge->GetScreenPosition();
-    m_progress->Move(0, 0);
-    m_progress->Move(corner.x, corner.y - PROGRESS_HEIGHT);
+    wxPoint const place = m_gauge->GetScreenPosition() - wxPoint(0, PROGRESS_HEIGHT);
+    // By way of the screen's corner: to a place that the toolkit remembers it would not move. A
+    // readout that stands right is left alone, else it would flicker each second.
+    if (!m_progress->IsShown() || m_progress->ClientToScreen(wxPoint(0, 0)) != place)
+    {
+        m_progress->Move(0, 0);
+        m_progress->Move(place);
+    }
     // The readout must not take the keyboard from the window in which the user works.
     m_progress->ShowWithoutActivating();
 }
