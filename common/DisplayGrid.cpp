@@ -24,12 +24,31 @@ wxString LabelText(std::string const& label)
     return text;
 }
 
-wxString NumberText(double value, Missing missing)
+/// Writes number after number into the same text: a new one for each cell would cost as much as all
+/// the rest.
+class NumberWriter
 {
-    if (std::isnan(value) && (missing == Missing::ANY_NAN || !std::signbit(value)))
-        return ".";
-    return FormatNumberWide(value);
-}
+public:
+    explicit NumberWriter(Missing missing) : m_missing(missing) {}
+
+    wxString const& Write(double value)
+    {
+        if (std::isnan(value) && (m_missing == Missing::ANY_NAN || !std::signbit(value)))
+            m_text = ".";
+        else
+        {
+            auto const narrow = FormatNumber(value);
+            m_wide.assign(narrow.begin(), narrow.end());
+            m_text.assign(m_wide);
+        }
+        return m_text;
+    }
+
+private:
+    Missing m_missing;
+    std::wstring m_wide;
+    wxString m_text;
+};
 } // namespace
 
 wxGrid* BuildDisplayGrid(wxPanel* panel, wxPanel* picker)
@@ -82,6 +101,7 @@ void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Mi
         if (columns[col].labels)
             colours.Mark(col, std::min(rows, static_cast<int>(columns[col].labels->size())));
     }
+    NumberWriter number(missing);
     // Straight into the table and row by row, the way it lies in memory: the grid's own call
     // would think of repainting at each cell.
     for (int row = 0; row < rows; ++row)
@@ -90,7 +110,7 @@ void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Mi
             auto const& column = columns[col];
             auto const index = static_cast<std::size_t>(row);
             if (!column.labels)
-                table->SetValue(row, col, NumberText(column.numbers[index], missing));
+                table->SetValue(row, col, number.Write(column.numbers[index]));
             else if (index < column.labels->size())
                 table->SetValue(row, col, LabelText((*column.labels)[index]));
         }

@@ -33,7 +33,7 @@ enum class Missing
 
 /// Gives an empty grid `rows` rows and the columns told, and fills it.
 ///
-/// Numbers stand as FormatNumberWide writes them. Labels past the last row are left out, cells past
+/// Numbers stand as FormatNumber writes them. Labels past the last row are left out, cells past
 /// the last label stay empty.
 void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Missing missing);
 } // namespace zenqo

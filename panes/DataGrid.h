@@ -17,6 +17,7 @@ class ZENQO_API DataGrid : public wxPanel
 public:
     explicit DataGrid(wxWindow* parent);
 
+    /// The grid, for the host's own bindings and questions.
     wxGrid* GetGrid() const;
 
     /// The index of the chosen dataset in the map's order; `wxNOT_FOUND` if there is none.

@@ -15,6 +15,7 @@ class ZENQO_API MatrixGrid : public wxPanel
 public:
     explicit MatrixGrid(wxWindow* parent);
 
+    /// The grid, for the host's own bindings and questions.
     wxGrid* GetGrid() const;
 
     /// The index of the chosen matrix in the map's order; `wxNOT_FOUND` if there is none.
