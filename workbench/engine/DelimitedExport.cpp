@@ -86,7 +86,7 @@ void CheckDataset(Dataset const& dataset, std::string const& owner)
     if (dataset.varNames.GetCount() != static_cast<std::size_t>(dataset.data.cols()))
         throw Error(owner + " has not as many variable names as columns: it cannot be exported");
     for (auto const& name : dataset.varNames)
-        CheckText(std::string(name.utf8_str()), owner);
+        CheckText(name.utf8_string(), owner);
     for (auto const& entry : dataset.labelledColumns)
         for (auto const& label : entry.second.labels)
             CheckText(label, owner);
@@ -108,7 +108,7 @@ void WriteNames(Writer& writer, Dataset const& dataset, char delimiter)
     {
         if (j > 1)
             writer.Put(delimiter);
-        std::string const name(dataset.varNames[j].utf8_str());
+        std::string const name = dataset.varNames[j].utf8_string();
         // Quotes around all names would say that quotes mean nothing; legal names need none.
         if (CheckID(name))
             writer.Put(name);
@@ -122,7 +122,7 @@ void WriteNames(Writer& writer, Dataset const& dataset, char delimiter)
 void ExportDelimited(Dataset const& dataset, std::string const& path, char delimiter, Progress& progress)
 {
     CheckDelimiter(delimiter);
-    CheckDataset(dataset, "dataset " + Quoted(std::string(dataset.name.utf8_str())));
+    CheckDataset(dataset, "dataset " + Quoted(dataset.name.utf8_string()));
     ProgressScope scope(progress, "Exporting " + path);
     Writer writer(path);
     WriteNames(writer, dataset, delimiter);

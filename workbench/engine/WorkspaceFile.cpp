@@ -73,7 +73,7 @@ json DescribeDataset(std::string const& name, Dataset const& dataset, std::strin
 
     json variables = json::array();
     for (auto const& variable : dataset.varNames)
-        variables.push_back(Checked(std::string(variable.utf8_str()), owner));
+        variables.push_back(Checked(variable.utf8_string(), owner));
 
     json text = json::array();
     for (auto const& [column, labelled] : dataset.labelledColumns)

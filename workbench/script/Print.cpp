@@ -57,7 +57,7 @@ void PrintDataset(std::string const& name, Dataset const& dataset, Output& outpu
         text += ", of which the last " + std::to_string(rows - first) + " are shown";
     text += "\nobs";
     for (std::size_t j = 1; j < dataset.varNames.GetCount(); ++j)
-        text += "\t" + AsCell(std::string(dataset.varNames[j].utf8_str()));
+        text += "\t" + AsCell(dataset.varNames[j].utf8_string());
     text += "\n";
     for (Eigen::Index i = first; i < rows; ++i)
     {
