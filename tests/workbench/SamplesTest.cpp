@@ -3,39 +3,17 @@
 #include <cmath>
 #include <filesystem>
 
-#include <wx/utils.h>
-
 #include "workbench/Recorder.h"
+#include "workbench/SampleFolder.h"
 #include "workbench/Scratch.h"
 #include "workbench/engine/Workspace.h"
 #include "workbench/script/Interpreter.h"
 
 namespace fs = std::filesystem;
 
-namespace
-{
-/// A copy of the samples as the current folder, for the length of a test.
-class AmongSamples
-{
-public:
-    AmongSamples() : m_old(fs::current_path())
-    {
-        wxString root;
-        REQUIRE(wxGetEnv("ZENQO_SOURCE_DIR", &root));
-        fs::copy(root.ToStdString() + "/workbench/samples", m_scratch.Folder());
-        fs::current_path(m_scratch.Folder());
-    }
-    ~AmongSamples() { fs::current_path(m_old); }
-
-private:
-    Scratch m_scratch;
-    fs::path m_old;
-};
-} // namespace
-
 TEST_CASE("the tour runs and saves what it made")
 {
-    AmongSamples const here;
+    SampleFolder const samples;
     workbench::Workspace workspace;
     Recorder output;
     Meter meter;
@@ -75,7 +53,7 @@ TEST_CASE("the tour runs and saves what it made")
 
 TEST_CASE("the workspace file among the samples is the one that the tour saves")
 {
-    AmongSamples const here;
+    SampleFolder const samples;
     auto const kept = ReadFile("sample.zws");
     workbench::Workspace workspace;
     Recorder output;
