@@ -64,7 +64,8 @@ void DatasetsPane::Update(DatasetMap* datasets)
     for (auto const& [key, dataset] : *datasets)
     {
         dataset->name = zenqo::ToWide(key);
-        AppendDataset(*dataset);
+        if (zenqo::HasVariables(*dataset))
+            AppendDataset(*dataset);
     }
     // Once for all: each time it walks the whole tree.
     m_tree->ExpandAll();
@@ -72,14 +73,14 @@ void DatasetsPane::Update(DatasetMap* datasets)
 
 void DatasetsPane::DrawTree(Dataset& dataset)
 {
+    if (!zenqo::HasVariables(dataset))
+        return;
     AppendDataset(dataset);
     m_tree->ExpandAll();
 }
 
 void DatasetsPane::AppendDataset(Dataset const& dataset)
 {
-    if (!zenqo::HasVariables(dataset))
-        return;
     // Without a root the tree would take the first dataset for it.
     auto root = m_tree->GetRootItem();
     if (!root.IsOk())

@@ -32,7 +32,10 @@ public:
     void OnDropFiles(wxDropFilesEvent& event);
 
 private:
+    /// Appends a dataset that has variables, and makes the root if there is none yet.
     void AppendDataset(Dataset const& dataset);
+
+    /// Shows the import dialog for the file and sends what the user makes of it.
     void AskForImport(wxString const& path);
 
     wxTreeCtrl* m_tree;

@@ -173,8 +173,10 @@ TEST_CASE("datasets pane: a dataset drawn alone is appended and expanded")
     placeholder->name = "__ZenqoEmptyDataset__";
     pane->DrawTree(*placeholder);
     pane->DrawTree(*Variables({"", "x"}));
+    tree->CollapseAll();
     pane->DrawTree(*Variables({}));
     CHECK(Drawn(tree) == "a(x y) b(z)");
+    CHECK_FALSE(tree->IsExpanded(tree->GetLastChild(tree->GetRootItem())));
 }
 
 TEST_CASE("datasets pane: a skipped dataset drawn alone on an empty tree")
