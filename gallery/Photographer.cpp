@@ -8,8 +8,10 @@
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/filename.h>
+#include <wx/frame.h>
 #include <wx/image.h>
 #include <wx/log.h>
+#include <wx/statusbr.h>
 #include <wx/stopwatch.h>
 #include <wx/toplevel.h>
 
@@ -47,7 +49,10 @@ void RunEventsFor(int milliseconds)
 bool TakePicture(wxTopLevelWindow const& window, std::string const& file)
 {
     wxPoint const corner = window.ClientToScreen(wxPoint(0, 0));
-    wxSize const size = window.GetClientSize();
+    wxSize size = window.GetClientSize();
+    auto const* const frame = dynamic_cast<wxFrame const*>(&window);
+    if (frame && frame->GetStatusBar())
+        size.y += frame->GetStatusBar()->GetSize().y;
     wxString const command
         = wxString::Format("import -silent -window root -crop %dx%d+%d+%d +repage -strip 'png24:%s'", size.x,
                            size.y, corner.x, corner.y, wxString::FromUTF8(file));

@@ -18,6 +18,9 @@ Shelf::Shelf(std::string const& samples)
     auto const posterior = Regress(*datasets.at("longley"), "TOTEMP");
     matrices["posterior_moments"] = std::make_shared<Eigen::MatrixXd>(posterior.moments);
 
+    auto const& cars = datasets.at("cars")->data;
+    matrices["design"] = std::make_shared<Eigen::MatrixXd>(cars.rightCols(cars.cols() - 2));
+
     auto model = std::make_shared<Model>();
     model->drawNames = posterior.names;
     model->drawNames.push_back("tau");
