@@ -1,0 +1,369 @@
+#include "workbench/app/MainFrame.h"
+
+#include <wx/filedlg.h>
+#include <wx/ffile.h>
+#include <wx/filename.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/notebook.h>
+#include <wx/splitter.h>
+
+#include "console/ZenqoConsole.h"
+#include "dialogs/data/ExportDataDialog.h"
+#include "engine/Engine.h"
+#include "panes/DatasetsPane.h"
+#include "panes/StatusBar.h"
+#include "workbench/app/SidePanes.h"
+#include "workbench/app/StartPage.h"
+
+namespace workbench
+{
+namespace
+{
+char const* const WORKSPACE_FILES = "Workspace files (*.zws)|*.zws";
+char const* const SCRIPT_FILES = "Scripts (*.zqs)|*.zqs|All files|*";
+char const* const TEXT_FILES = "Text data (*.csv;*.txt)|*.csv;*.txt";
+
+std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
+
+wxString Wide(std::string const& text) { return wxString(text.c_str(), wxConvLibc); }
+
+/// A delimiter as the script language writes it.
+std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : std::string(1, delimiter); }
+} // namespace
+
+MainFrame::MainFrame(std::string const& samples)
+    : wxFrame(nullptr, wxID_ANY, "Zenqo Workbench", wxDefaultPosition, wxSize(1180, 780))
+{
+    auto* const splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                                wxSP_LIVE_UPDATE | wxSP_3DSASH);
+    m_side = new SidePanes(splitter);
+    MakePages(splitter, samples);
+    splitter->SetMinimumPaneSize(160);
+    splitter->SplitVertically(m_side, m_pages, 230);
+
+    m_bar = new StatusBar(this, wxEmptyString);
+    SetStatusBar(m_bar);
+    m_dataPage.emplace(*m_dataGrid, m_workspace.datasets);
+    m_matrixPage.emplace(*m_matrixGrid, m_workspace.matrices);
+    m_runner.emplace(m_workspace, *m_console, *m_bar,
+                     [this](Workspace const& before) { OnWorkspaceChanged(before); });
+    MakeMenus();
+
+    Bind(wxEVT_PRINT_AND_RUN, &MainFrame::OnPrintAndRun, this);
+    Bind(wxEVT_CLOSE_WINDOW, &MainFrame::OnClose, this);
+    SetMinSize(wxSize(800, 500));
+    m_side->Update(m_workspace);
+    m_console->PrintOnStartup();
+    NoteWhetherSaved();
+}
+
+MainFrame::~MainFrame() = default;
+
+void MainFrame::MakePages(wxWindow* parent, std::string const& samples)
+{
+    m_pages = new wxNotebook(parent, wxID_ANY);
+    m_pages->AddPage(new StartPage(m_pages, samples,
+                                   [this](std::string const& script)
+                                   {
+                                       ShowPage(PAGE_CONSOLE);
+                                       Run(script);
+                                   }),
+                     "Start");
+    m_console = new ZenqoConsole(m_pages);
+    m_dataGrid = new DataGrid(m_pages);
+    m_matrixGrid = new MatrixGrid(m_pages);
+    m_pages->AddPage(m_console, "Console");
+    m_pages->AddPage(m_dataGrid, "Data");
+    m_pages->AddPage(m_matrixGrid, "Matrices");
+    m_pages->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED,
+                  [this](wxBookCtrlEvent& event)
+                  {
+                      event.Skip();
+                      DrawShownPage();
+                  });
+}
+
+void MainFrame::MakeMenus()
+{
+    auto* const bar = new wxMenuBar;
+    MakeFileMenu(*bar);
+    MakeEditMenu(*bar);
+    MakeDataMenu(*bar);
+    MakeScriptMenu(*bar);
+    MakeViewMenu(*bar);
+    SetMenuBar(bar);
+}
+
+template <class Action>
+void MainFrame::AddEntry(wxMenu& menu, wxString const& label, wxString const& help, Action action)
+{
+    wxMenuItem* const item = menu.Append(wxID_ANY, label, help);
+    Bind(
+        wxEVT_MENU,
+        [this, action](wxCommandEvent&)
+        {
+            if (!m_runner->IsBusy())
+                action();
+        },
+        item->GetId());
+    Bind(
+        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(!m_runner->IsBusy()); },
+        item->GetId());
+}
+
+void MainFrame::MakeFileMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Open workspace...\tCtrl+O", "Replaces the workspace by that of a file",
+             [this] { OpenWorkspace(); });
+    AddEntry(*menu, "&Save workspace\tCtrl+S", "Saves all datasets, matrices and models",
+             [this] { SaveWorkspace(); });
+    AddEntry(*menu, "Save workspace &as...\tCtrl+Shift+S", "Saves the workspace in another file",
+             [this] { SaveWorkspaceAs(); });
+    menu->AppendSeparator();
+    AddEntry(*menu, "&Quit\tCtrl+Q", "Closes the workbench", [this] { Close(); });
+    bar.Append(menu, "&File");
+}
+
+void MainFrame::MakeEditMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Copy\tCtrl+C", "Copies the selection of the console or the grid", [this] { EditKey('C'); });
+    AddEntry(*menu, "Copy as &TeX\tCtrl+T", "Copies the console's selection, its tables as TeX",
+             [this]
+             {
+                 ShowPage(PAGE_CONSOLE);
+                 EditKey('T');
+             });
+    AddEntry(*menu, "Select &all\tCtrl+A", "Selects all of the console or the grid", [this] { EditKey('A'); });
+    menu->AppendSeparator();
+    AddEntry(*menu, "C&lear console\tCtrl+L", "Empties the console", [this] { m_console->ClearConsole(); });
+    bar.Append(menu, "&Edit");
+}
+
+void MainFrame::MakeDataMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Import...\tCtrl+I", "Makes a dataset of a text file", [this] { ImportData(); });
+    AddEntry(*menu, "&Export...\tCtrl+E", "Writes a dataset to a text file", [this] { ExportData(); });
+    menu->AppendSeparator();
+    AddEntry(*menu, "&Print\tCtrl+P", "Prints the shown dataset or matrix on the console",
+             [this] { PrintShown(); });
+    bar.Append(menu, "&Data");
+}
+
+void MainFrame::MakeScriptMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Run script...\tCtrl+R", "Runs the statements of a file", [this] { RunScript(); });
+    AddEntry(*menu, "&Save session as script...", "Saves what was run since the start",
+             [this] { SaveSession(); });
+    menu->AppendSeparator();
+    wxMenuItem* const stop = menu->Append(wxID_ANY, "S&top\tCtrl+.", "Ends the running command");
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { m_runner->Stop(); }, stop->GetId());
+    Bind(
+        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(m_runner->IsBusy()); }, stop->GetId());
+    bar.Append(menu, "&Script");
+}
+
+void MainFrame::MakeViewMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Start page\tCtrl+1", "Shows the start page", [this] { ShowPage(PAGE_START); });
+    AddEntry(*menu, "&Console\tCtrl+2", "Shows the console", [this] { ShowPage(PAGE_CONSOLE); });
+    AddEntry(*menu, "&Data\tCtrl+3", "Shows the datasets", [this] { ShowPage(PAGE_DATA); });
+    AddEntry(*menu, "&Matrices\tCtrl+4", "Shows the matrices", [this] { ShowPage(PAGE_MATRICES); });
+    bar.Append(menu, "&View");
+}
+
+bool MainFrame::Run(std::string const& script)
+{
+    bool const done = m_runner->Run(script);
+    NoteWhetherSaved();
+    return done;
+}
+
+bool MainFrame::OpenFile(std::string const& path)
+{
+    ShowPage(PAGE_CONSOLE);
+    return Run("load(\"" + path + "\");");
+}
+
+bool MainFrame::RunFile(std::string const& path)
+{
+    ShowPage(PAGE_CONSOLE);
+    bool const done = m_runner->RunFile(path);
+    NoteWhetherSaved();
+    return done;
+}
+
+void MainFrame::OpenWorkspace()
+{
+    wxFileDialog dialog(this, "Open workspace", wxEmptyString, wxEmptyString, WORKSPACE_FILES,
+                        wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+    if (dialog.ShowModal() == wxID_OK)
+        OpenFile(Narrow(dialog.GetPath()));
+}
+
+bool MainFrame::SaveWorkspace()
+{
+    return m_saved.file.empty() ? SaveWorkspaceAs() : Run("save(\"" + m_saved.file + "\");");
+}
+
+bool MainFrame::SaveWorkspaceAs()
+{
+    wxFileDialog dialog(this, "Save workspace", wxEmptyString, "workspace.zws", WORKSPACE_FILES,
+                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+    if (dialog.ShowModal() != wxID_OK)
+        return false;
+    wxFileName path(dialog.GetPath());
+    if (!path.HasExt())
+        path.SetExt("zws");
+    return Run("save(\"" + Narrow(path.GetFullPath()) + "\");");
+}
+
+void MainFrame::ImportData()
+{
+    wxFileDialog dialog(this, "Import data", wxEmptyString, wxEmptyString, TEXT_FILES,
+                        wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    // From here on it is the way of a file that is dropped on the datasets' tree.
+    auto* const files = new wxString[1]{dialog.GetPath()};
+    wxDropFilesEvent event(wxEVT_DROP_FILES, 1, files);
+    m_side->Datasets().OnDropFiles(event);
+}
+
+void MainFrame::ExportData()
+{
+    if (m_workspace.datasets.empty())
+    {
+        wxMessageBox("There is no dataset to export.", "Export Data", wxOK | wxICON_INFORMATION, this);
+        return;
+    }
+    auto const shown = m_workspace.datasets.find(m_dataPage->Shown());
+    auto const selection = shown == m_workspace.datasets.end()
+                               ? 0
+                               : static_cast<int>(std::distance(m_workspace.datasets.begin(), shown));
+    ExportDataDialog dialog(this, &m_workspace.datasets, selection, true);
+    if (dialog.ShowModal() == wxID_OK)
+        Run("export(" + dialog.GetDatasetName() + ", \"" + dialog.GetFileName() + "\", \""
+            + DelimiterText(dialog.GetDelimiter()) + "\");");
+}
+
+void MainFrame::PrintShown()
+{
+    std::string const& name
+        = m_pages->GetSelection() == PAGE_MATRICES ? m_matrixPage->Shown() : m_dataPage->Shown();
+    if (name.empty())
+        return;
+    std::string const script = "print(" + name + ");";
+    ShowPage(PAGE_CONSOLE);
+    Run(script);
+}
+
+void MainFrame::RunScript()
+{
+    wxFileDialog dialog(this, "Run script", wxEmptyString, wxEmptyString, SCRIPT_FILES,
+                        wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+    if (dialog.ShowModal() == wxID_OK)
+        RunFile(Narrow(dialog.GetPath()));
+}
+
+void MainFrame::SaveSession()
+{
+    wxFileDialog dialog(this, "Save session as script", wxEmptyString, "session.zqs", SCRIPT_FILES,
+                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    std::string text;
+    for (std::string const& statement : m_runner->History())
+        text += statement + "\n";
+    wxFFile file;
+    if (!file.Open(dialog.GetPath(), "wb") || !file.Write(text.data(), text.size()) || !file.Close())
+        m_console->PrintOnConsoleError("The script can't be saved as " + Narrow(dialog.GetPath()) + ".");
+}
+
+void MainFrame::EditKey(int key)
+{
+    // Console and grids serve these keys themselves; the menu hands them on.
+    wxWindow* target = nullptr;
+    switch (m_pages->GetSelection())
+    {
+    case PAGE_CONSOLE: target = m_console->GetChildren().GetFirst()->GetData(); break;
+    case PAGE_DATA: target = m_dataGrid->GetGrid(); break;
+    case PAGE_MATRICES: target = m_matrixGrid->GetGrid(); break;
+    default: return;
+    }
+    wxKeyEvent event(wxEVT_KEY_DOWN);
+    event.SetEventObject(target);
+    event.m_keyCode = key;
+    event.SetControlDown(true);
+    target->ProcessWindowEvent(event);
+}
+
+void MainFrame::OnPrintAndRun(wxCommandEvent& event) { Run(Narrow(event.GetString())); }
+
+void MainFrame::OnClose(wxCloseEvent& event)
+{
+    if (m_runner->IsBusy() && event.CanVeto())
+    {
+        m_runner->Stop();
+        event.Veto();
+        return;
+    }
+    if (!IsSaved() && event.CanVeto())
+    {
+        int const answer = wxMessageBox("The workspace has changes that are not saved.\n\nSave them before "
+                                        "the workbench closes?",
+                                        "Zenqo Workbench", wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
+        if (answer == wxCANCEL || (answer == wxYES && !SaveWorkspace()))
+        {
+            event.Veto();
+            return;
+        }
+    }
+    // One dot for each of the things that a large workspace takes time to let go of.
+    for (auto release : {+[](Workspace& w) { w.models.clear(); }, +[](Workspace& w) { w.matrices.clear(); },
+                         +[](Workspace& w) { w.datasets.clear(); }})
+    {
+        release(m_saved);
+        release(m_workspace);
+        m_console->PrintOnExit("");
+    }
+    Destroy();
+}
+
+void MainFrame::OnWorkspaceChanged(Workspace const& before)
+{
+    m_side->Update(m_workspace);
+    m_dataPage->OnChanged(before.datasets);
+    m_matrixPage->OnChanged(before.matrices);
+    DrawShownPage();
+}
+
+void MainFrame::DrawShownPage()
+{
+    // The grids are drawn when they are seen: a hidden one would be filled for nobody.
+    if (m_pages->GetSelection() == PAGE_DATA)
+        m_dataPage->Draw();
+    else if (m_pages->GetSelection() == PAGE_MATRICES)
+        m_matrixPage->Draw();
+}
+
+void MainFrame::ShowPage(Page page) { m_pages->SetSelection(page); }
+
+bool MainFrame::IsSaved() const { return m_workspace.SameObjects(m_saved); }
+
+void MainFrame::NoteWhetherSaved()
+{
+    // Loading and saving leave their mark in the workspace, wherever the command came from.
+    if (m_workspace.stored != m_saved.stored)
+        m_saved = m_workspace;
+    wxString const file
+        = m_saved.file.empty() ? wxString("Untitled") : wxFileName(Wide(m_saved.file)).GetFullName();
+    SetTitle((IsSaved() ? wxString() : wxString("*")) + file + " - Zenqo Workbench");
+}
+} // namespace workbench
