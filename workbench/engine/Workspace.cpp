@@ -26,6 +26,17 @@ void AppendNames(Map const& map, std::vector<std::string>& names)
 }
 } // namespace
 
+void Workspace::NoteStored(std::string const& path)
+{
+    file = path;
+    ++stored;
+}
+
+bool Workspace::SameObjects(Workspace const& other) const
+{
+    return datasets == other.datasets && matrices == other.matrices && models == other.models;
+}
+
 Object Workspace::Find(std::string const& name) const
 {
     Object object;

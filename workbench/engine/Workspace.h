@@ -26,6 +26,16 @@ struct Workspace
     MatrixMap matrices;
     ModelMap models;
 
+    std::string file;         ///< Where it was last loaded from or saved to; empty if nowhere.
+    unsigned long stored = 0; ///< How often it was loaded or saved.
+
+    /// Notes that `path` holds this workspace.
+    void NoteStored(std::string const& path);
+
+    /// True if both hold the same objects under the same names. A changed object is a new object,
+    /// so this looks at no values.
+    bool SameObjects(Workspace const& other) const;
+
     /// The object called `name`, or nothing.
     Object Find(std::string const& name) const;
 

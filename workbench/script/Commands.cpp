@@ -52,6 +52,7 @@ Outcome RunLoad(Context const& context, Arguments const& arguments)
 {
     Outcome outcome;
     outcome.workspace = LoadWorkspace(arguments.Text(0), context.progress);
+    outcome.stored = arguments.Text(0);
     return outcome;
 }
 
@@ -64,7 +65,9 @@ Outcome RunPrint(Context const& context, Arguments const& arguments)
 Outcome RunSave(Context const& context, Arguments const& arguments)
 {
     SaveWorkspace(context.workspace, arguments.Text(0), context.progress);
-    return {};
+    Outcome outcome;
+    outcome.stored = arguments.Text(0);
+    return outcome;
 }
 
 // --------------------------------------------------------------------------------------- checking

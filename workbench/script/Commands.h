@@ -70,6 +70,7 @@ struct Outcome
     std::vector<std::pair<std::string, Object>> assigned; ///< Further objects by name.
     std::vector<std::string> removed;                     ///< Names that go.
     std::optional<Workspace> workspace;                   ///< Takes the place of all that was there.
+    std::optional<std::string> stored;                    ///< The file that now holds the workspace.
 };
 
 /// Whether a statement gives a name to what the command returns.

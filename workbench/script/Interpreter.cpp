@@ -33,13 +33,18 @@ Object Evaluate(Argument const& argument, Workspace const& workspace)
 void Apply(Outcome&& outcome, std::optional<std::string> const& target, Workspace& workspace)
 {
     if (outcome.workspace)
+    {
+        outcome.workspace->stored = workspace.stored;
         std::swap(workspace, *outcome.workspace);
+    }
     for (auto const& name : outcome.removed)
         workspace.Remove(name);
     for (auto const& [name, object] : outcome.assigned)
         workspace.Assign(name, object);
     if (target)
         workspace.Assign(*target, outcome.result);
+    if (outcome.stored)
+        workspace.NoteStored(*outcome.stored);
 }
 } // namespace
 
