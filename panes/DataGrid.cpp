@@ -38,7 +38,12 @@ wxGrid* DataGrid::GetGrid() const { return m_grid; }
 
 int DataGrid::GetSelection() const { return m_picker->GetSelection(); }
 
-void DataGrid::SetChoice(wxString& name) { m_picker->SetChoice(name); }
+void DataGrid::SetChoice(wxString& name)
+{
+    m_picker->SetChoice(name);
+    // The user's next pick is a change against this one.
+    m_picker->SetCurrentSelection(m_picker->GetSelection());
+}
 
 void DataGrid::GoToCell(int row, int col)
 {

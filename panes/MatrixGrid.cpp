@@ -30,7 +30,12 @@ wxGrid* MatrixGrid::GetGrid() const { return m_grid; }
 
 int MatrixGrid::GetSelection() const { return m_picker->GetSelection(); }
 
-void MatrixGrid::SetChoice(wxString& name) { m_picker->SetChoice(name); }
+void MatrixGrid::SetChoice(wxString& name)
+{
+    m_picker->SetChoice(name);
+    // The user's next pick is a change against this one.
+    m_picker->SetCurrentSelection(m_picker->GetSelection());
+}
 
 void MatrixGrid::ClearGrid() { zenqo::EmptyGrid(m_grid); }
 

@@ -29,7 +29,7 @@ ExportDataDialog::ExportDataDialog(wxWindow* parent, DatasetMap* datasets, int s
 
     m_dataset->SetChoices(m_names);
     auto const count = static_cast<int>(m_names.size());
-    m_dataset->SetSelection(selection < count ? selection : 0);
+    Select(selection < count ? selection : 0);
     ProposeFile(zenqo::ToWide(GetDatasetName()));
     zenqo::LayOutDialog(this, sizer);
 }
@@ -49,8 +49,14 @@ void ExportDataDialog::SetDataset(int index)
 {
     if (index < 0 || index >= static_cast<int>(m_names.size()))
         return;
-    m_dataset->SetSelection(index);
+    Select(index);
     ProposeFile(m_names[static_cast<std::size_t>(index)]);
+}
+
+void ExportDataDialog::Select(int index)
+{
+    m_dataset->SetSelection(index);
+    m_dataset->SetCurrentSelection(index);
 }
 
 void ExportDataDialog::ProposeFile(wxString const& name) { m_file->SetPath("./" + name + ".csv"); }

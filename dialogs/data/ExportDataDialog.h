@@ -39,6 +39,7 @@ public:
     void SetDataset(int index);
 
 private:
+    void Select(int index);
     void ProposeFile(wxString const& name);
 
     DatasetPicker* m_dataset;

@@ -35,7 +35,9 @@ std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : s
 MainFrame::MainFrame(std::string const& samples)
     : wxFrame(nullptr, wxID_ANY, "Zenqo Workbench", wxDefaultPosition, wxSize(1180, 780))
 {
-    auto* const splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+    // The splitter begins with its real size: divided small, its panes would be laid out in less than
+    // nothing.
+    auto* const splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, GetClientSize(),
                                                 wxSP_LIVE_UPDATE | wxSP_3DSASH);
     m_side = new SidePanes(splitter);
     MakePages(splitter, samples);
