@@ -163,6 +163,8 @@ void StatusBar::OnSize(wxSizeEvent& event)
         return;
     wxRect field;
     GetFieldRect(m_hasMessage ? 2 : 1, field);
-    m_gauge->SetSize(field.x, field.y, field.width, field.height, wxSIZE_AUTO);
+    // A bar that is still being laid out can have a field of less than no height.
+    if (field.width >= 0 && field.height >= 0)
+        m_gauge->SetSize(field.x, field.y, field.width, field.height, wxSIZE_AUTO);
     event.Skip();
 }

@@ -35,6 +35,10 @@ std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : s
 MainFrame::MainFrame(std::string const& samples)
     : wxFrame(nullptr, wxID_ANY, "Zenqo Workbench", wxDefaultPosition, wxSize(1180, 780))
 {
+    // The toolkit would realize the window first and show it when the window manager has told the size
+    // of its frame, and GTK lays it out in a few pixels in between and complains.
+    m_deferShow = false;
+
     // The splitter begins with its real size: divided small, its panes would be laid out in less than
     // nothing.
     auto* const splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, GetClientSize(),
@@ -65,19 +69,26 @@ MainFrame::~MainFrame() = default;
 void MainFrame::MakePages(wxWindow* parent, std::string const& samples)
 {
     m_pages = new wxNotebook(parent, wxID_ANY);
-    m_pages->AddPage(new StartPage(m_pages, samples,
-                                   [this](std::string const& script)
-                                   {
-                                       ShowPage(PAGE_CONSOLE);
-                                       Run(script);
-                                   }),
-                     "Start");
+    auto* const start = new StartPage(m_pages, samples,
+                                      [this](std::string const& script)
+                                      {
+                                          ShowPage(PAGE_CONSOLE);
+                                          Run(script);
+                                      });
     m_console = new ZenqoConsole(m_pages);
     m_dataGrid = new DataGrid(m_pages);
     m_matrixGrid = new MatrixGrid(m_pages);
-    m_pages->AddPage(m_console, "Console");
-    m_pages->AddPage(m_dataGrid, "Data");
-    m_pages->AddPage(m_matrixGrid, "Matrices");
+
+    auto const add = [this](wxWindow* page, wxString const& title)
+    {
+        // The notebook sizes its pages late. Until then a page needs room for its scroll bars.
+        page->SetSize(600, 400);
+        m_pages->AddPage(page, title);
+    };
+    add(start, "Start");
+    add(m_console, "Console");
+    add(m_dataGrid, "Data");
+    add(m_matrixGrid, "Matrices");
     m_pages->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED,
                   [this](wxBookCtrlEvent& event)
                   {
