@@ -12,6 +12,8 @@ wxFilePickerCtrl* AddSaveFileBox(wxWindow* parent, wxSizer* sizer, wxString cons
     auto* const picker = new wxFilePickerCtrl(
         box->GetStaticBox(), wxID_ANY, path, "Select a file", "*.*", wxDefaultPosition, wxDefaultSize,
         wxFLP_SAVE | wxFLP_OVERWRITE_PROMPT | wxFLP_USE_TEXTCTRL);
+    // Room to read the end of a path in.
+    picker->SetMinSize(wxSize(360, -1));
     box->Add(picker, 0, wxEXPAND | wxALL, 5);
     sizer->Add(box, 0, wxEXPAND | wxALL, 5);
     return picker;

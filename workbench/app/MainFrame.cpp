@@ -3,6 +3,7 @@
 #include <wx/filedlg.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
+#include <wx/grid.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
@@ -78,6 +79,10 @@ void MainFrame::MakePages(wxWindow* parent, std::string const& samples)
     m_console = new ZenqoConsole(m_pages);
     m_dataGrid = new DataGrid(m_pages);
     m_matrixGrid = new MatrixGrid(m_pages);
+
+    // Wide enough for the longest number of six digits, which would else be cut at its front.
+    for (wxGrid* const grid : {m_dataGrid->GetGrid(), m_matrixGrid->GetGrid()})
+        grid->SetDefaultColSize(110);
 
     auto const add = [this](wxWindow* page, wxString const& title)
     {
