@@ -1,0 +1,16 @@
+#pragma once
+
+namespace benchmarks
+{
+class Table;
+
+/// Each measures one family of figures and adds them to the table.
+///@{
+void MeasureGrids(Table& table);
+void MeasureTrees(Table& table);
+void MeasureConsole(Table& table);
+void MeasurePickers(Table& table);
+void MeasureStart(Table& table);
+void MeasureImport(Table& table);
+///@}
+} // namespace benchmarks
