@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include <csignal>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -41,7 +42,12 @@ pid_t Start(std::string const& program)
 {
     pid_t process = 0;
     char* const arguments[] = {const_cast<char*>(program.c_str()), nullptr};
-    if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ) != 0)
+    posix_spawn_file_actions_t quiet;
+    posix_spawn_file_actions_init(&quiet);
+    posix_spawn_file_actions_addopen(&quiet, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    int const failure = posix_spawn(&process, program.c_str(), &quiet, nullptr, arguments, environ);
+    posix_spawn_file_actions_destroy(&quiet);
+    if (failure != 0)
         throw std::runtime_error("this does not start: " + program);
     return process;
 }

@@ -20,7 +20,7 @@ struct Cost
 /// Throws std::runtime_error if the command fails.
 Cost Run(std::string const& command);
 
-/// Starts a program, to be ended by Stop.
+/// Starts a program, to be ended by Stop. What it complains of goes nowhere.
 pid_t Start(std::string const& program);
 void Stop(pid_t process);
 } // namespace benchmarks
