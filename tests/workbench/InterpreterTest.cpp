@@ -59,10 +59,10 @@ TEST_CASE("a file is imported, printed, exported and cleared")
     REQUIRE(desk.Run("print(wages);"));
     CHECK(desk.output.text
           == "\nDataset wages: 3 observations of 3 variables\n"
-             "obs\tperson\twage\teduc\n"
-             "1\tann\t10.5\t12\n"
-             "2\tbob\t.\t16\n"
-             "3\t.\t8\t1.23457e+06\n");
+             "obs\tperson\twage\t       educ\n"
+             "  1\tann   \t10.5\t         12\n"
+             "  2\tbob   \t   .\t         16\n"
+             "  3\t.     \t   8\t1.23457e+06\n");
 
     REQUIRE(desk.Run("export(wages, \"" + scratch.Path("out.csv") + "\", \";\"); clear(wages);"));
     CHECK(ReadFile(scratch.Path("out.csv"))
@@ -94,7 +94,7 @@ TEST_CASE("a console that keeps so many lines is shown the last observations")
     REQUIRE(desk.Run("x = import(\"" + path + "\", \",\"); print(x);"));
     CHECK(desk.output.text
           == "\nDataset x: 50 observations of 1 variable, of which the last 3 are shown\n"
-             "obs\tx\n48\t2304\n49\t2401\n50\t2500\n");
+             "obs\t   x\n 48\t2304\n 49\t2401\n 50\t2500\n");
 }
 
 TEST_CASE("labels keep to one cell when printed")
@@ -104,7 +104,7 @@ TEST_CASE("labels keep to one cell when printed")
     Desk desk;
     REQUIRE(desk.Run("x = import(\"" + path + "\", \",\"); print(x);"));
     CHECK(desk.output.text
-          == "\nDataset x: 1 observation of 2 variables\nobs\ta\tb\n1\ttwo lines\ta tab\n");
+          == "\nDataset x: 1 observation of 2 variables\nobs\ta        \tb    \n  1\ttwo lines\ta tab\n");
 }
 
 TEST_CASE("matrices are made, copied, replaced and printed")

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/Number.h"
+#include "workbench/engine/Utf8.h"
 #include "workbench/script/Output.h"
 
 namespace workbench
@@ -44,26 +45,61 @@ std::string Cell(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
     return std::isnan(value) ? "." : zenqo::FormatNumber(value);
 }
 
+/// Column `j` of a dataset as it is printed; column 0 stands for the observations' numbers.
+struct PrintedColumn
+{
+    std::string title;
+    bool text;             ///< Aligned at the left, and numbers at the right.
+    std::size_t width = 0; ///< In characters.
+};
+
+std::string CellOf(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
+{
+    return column == 0 ? std::to_string(row + 1) : Cell(dataset, row, column);
+}
+
+std::vector<PrintedColumn> MeasureColumns(Dataset const& dataset, Eigen::Index first)
+{
+    std::vector<PrintedColumn> columns{{"obs", false}};
+    for (std::size_t j = 1; j < dataset.varNames.GetCount(); ++j)
+        columns.push_back({AsCell(dataset.varNames[j].utf8_string()),
+                           dataset.labelledColumns.count(static_cast<int>(j)) > 0});
+    for (std::size_t j = 0; j < columns.size(); ++j)
+    {
+        columns[j].width = CountCharacters(columns[j].title);
+        for (Eigen::Index i = first; i < dataset.data.rows(); ++i)
+            columns[j].width = std::max(columns[j].width,
+                                        CountCharacters(CellOf(dataset, i, static_cast<Eigen::Index>(j))));
+    }
+    return columns;
+}
+
+/// A cell as wide as its column, so that the cells behind it begin at one tab stop.
+std::string Pad(std::string const& cell, PrintedColumn const& column)
+{
+    std::string const blanks(column.width - CountCharacters(cell), ' ');
+    return column.text ? cell + blanks : blanks + cell;
+}
+
 void PrintDataset(std::string const& name, Dataset const& dataset, Output& output)
 {
     auto const rows = dataset.data.rows();
     auto const cols = dataset.data.cols();
     auto const room = output.MaxLines() > 0 ? std::max(1, output.MaxLines() - HEAD_LINES) : rows;
     auto const first = std::max<Eigen::Index>(0, rows - room);
+    auto const columns = MeasureColumns(dataset, first);
 
     std::string text = "\nDataset " + name + ": " + Count(rows, "observation", "observations") + " of "
                        + Count(std::max<Eigen::Index>(0, cols - 1), "variable", "variables");
     if (first > 0)
         text += ", of which the last " + std::to_string(rows - first) + " are shown";
-    text += "\nobs";
-    for (std::size_t j = 1; j < dataset.varNames.GetCount(); ++j)
-        text += "\t" + AsCell(dataset.varNames[j].utf8_string());
+    for (std::size_t j = 0; j < columns.size(); ++j)
+        text += (j == 0 ? "\n" : "\t") + Pad(columns[j].title, columns[j]);
     text += "\n";
     for (Eigen::Index i = first; i < rows; ++i)
     {
-        text += std::to_string(i + 1);
-        for (Eigen::Index j = 1; j < cols; ++j)
-            text += "\t" + Cell(dataset, i, j);
+        for (std::size_t j = 0; j < columns.size(); ++j)
+            text += (j == 0 ? "" : "\t") + Pad(CellOf(dataset, i, static_cast<Eigen::Index>(j)), columns[j]);
         text += "\n";
         if (text.size() > PIECE)
         {
