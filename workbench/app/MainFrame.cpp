@@ -315,6 +315,13 @@ void MainFrame::EditKey(int key)
     case PAGE_MATRICES: target = m_matrixGrid->GetGrid(); break;
     default: return;
     }
+    // All but one: a grid has no key that selects everything.
+    auto* const grid = wxDynamicCast(target, wxGrid);
+    if (grid && key == 'A')
+    {
+        grid->SelectAll();
+        return;
+    }
     wxKeyEvent event(wxEVT_KEY_DOWN);
     event.SetEventObject(target);
     event.m_keyCode = key;
