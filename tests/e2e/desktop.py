@@ -72,6 +72,8 @@ class Program:
             except subprocess.TimeoutExpired:
                 self.process.kill()
                 self.process.wait()
+        self._output.close()
+        self._errors.close()
 
     @staticmethod
     def _read(file):
