@@ -59,6 +59,7 @@ MainFrame::MainFrame(std::string const& samples)
 
     Bind(wxEVT_PRINT_AND_RUN, &MainFrame::OnPrintAndRun, this);
     Bind(wxEVT_CLOSE_WINDOW, &MainFrame::OnClose, this);
+    Bind(wxEVT_CHAR_HOOK, &MainFrame::OnCharHook, this);
     SetMinSize(wxSize(800, 500));
     m_side->Update(m_workspace);
     m_console->PrintOnStartup();
@@ -327,6 +328,16 @@ void MainFrame::EditKey(int key)
     event.m_keyCode = key;
     event.SetControlDown(true);
     target->ProcessWindowEvent(event);
+}
+
+void MainFrame::OnCharHook(wxKeyEvent& event)
+{
+    // The console keeps every key with more than one modifier from the menu bar.
+    bool const saveAs = event.GetModifiers() == (wxMOD_CONTROL | wxMOD_SHIFT) && event.GetKeyCode() == 'S';
+    if (saveAs && !m_runner->IsBusy())
+        SaveWorkspaceAs();
+    else
+        event.Skip();
 }
 
 void MainFrame::OnPrintAndRun(wxCommandEvent& event) { Run(Narrow(event.GetString())); }

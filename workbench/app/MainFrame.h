@@ -70,6 +70,7 @@ private:
     void SaveSession();
     void EditKey(int key);
 
+    void OnCharHook(wxKeyEvent& event);
     void OnPrintAndRun(wxCommandEvent& event);
     void OnClose(wxCloseEvent& event);
 
