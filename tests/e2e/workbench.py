@@ -22,6 +22,10 @@ WORKBENCH, DRAG_SOURCE = sys.argv[1:3]
 PATIENCE = 60.0
 
 WAGES = "year,wage,region\n2001,12.5,north\n2002,,south\n2003,14.25,east\n"
+WAGES_PRINTED = ("obs\tyear\t wage\tregion\n"
+                 "  1\t2001\t 12.5\tnorth \n"
+                 "  2\t2002\t    .\tsouth \n"
+                 "  3\t2003\t14.25\teast  \n")
 WAGES_CELLS = "2001\t12.5\tnorth\n2002\t.\tsouth\n2003\t14.25\teast"
 
 
