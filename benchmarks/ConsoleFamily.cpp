@@ -128,11 +128,11 @@ void MeasurePrints(Table& table)
     table.Add(growth, secondAgainstFirst);
 }
 
-/// A full console's worth of matrix, and its text at once.
+/// A full console's worth of matrix, and its text at once: as the call alone, which leaves the
+/// painting to the event loop, and painted as the console's is.
 void MeasureMatrix(Table& table)
 {
-    Claim const claim{"console, a matrix of 600 x 5: against one AppendText", 2.0};
-    if (!table.Wants(claim.name))
+    if (!table.Wants("console, a matrix of 600 x 5"))
         return;
     std::mt19937 generator(1);
     std::normal_distribution<double> normal;
@@ -143,21 +143,28 @@ void MeasureMatrix(Table& table)
 
     Window<ZenqoConsole> console({20, 40});
     Window<BareText> bare({450, 40});
-    table.Compare(
-        claim,
-        [&]
-        {
-            console->ClearConsole();
-            Settle();
-            return Seconds([&] { console->PrintOnConsole(matrix); });
-        },
-        [&]
-        {
-            bare->Clear();
-            Settle();
-            return Seconds([&] { bare->AppendText(wide); });
-        },
-        25);
+    auto const print = [&]
+    {
+        console->ClearConsole();
+        Settle();
+        return Seconds([&] { console->PrintOnConsole(matrix); });
+    };
+    auto const append = [&](bool painted)
+    {
+        bare->Clear();
+        Settle();
+        return Seconds(
+            [&]
+            {
+                bare->AppendText(wide);
+                if (painted)
+                    bare->Update();
+            });
+    };
+    table.Compare({"console, a matrix of 600 x 5: against one AppendText", 2.0}, print,
+                  [&] { return append(false); }, 25);
+    table.Compare({"console, a matrix of 600 x 5: against it painted", 2.0}, print,
+                  [&] { return append(true); }, 25);
 }
 } // namespace
 

@@ -54,27 +54,32 @@ public:
 
     bool IsPainted(Window window) const
     {
-        constexpr int POINTS = 9;
         XWindowAttributes attributes;
         if (!XGetWindowAttributes(m_display, window, &attributes) || attributes.map_state != IsViewable)
             return false;
-        XImage* const image = XGetImage(m_display, window, 0, 0, static_cast<unsigned>(attributes.width),
-                                        static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
-        if (!image)
-            return false;
-        bool painted = true;
         for (int i = 1; i <= POINTS; ++i)
-            for (int j = 1; j <= POINTS; ++j)
-                painted = painted
-                          && (XGetPixel(image, i * attributes.width / (POINTS + 1),
-                                        j * attributes.height / (POINTS + 1))
-                              & 0xffffff)
-                                 != 0;
-        XDestroyImage(image);
-        return painted;
+            if (HasBlack(window, attributes.width, i * attributes.height / (POINTS + 1)))
+                return false;
+        return true;
     }
 
 private:
+    static constexpr int POINTS = 9;
+
+    /// One of the row's points is black. Whole pictures would keep the display from its work.
+    bool HasBlack(Window window, int width, int y) const
+    {
+        XImage* const row = XGetImage(m_display, window, 0, y, static_cast<unsigned>(width), 1, AllPlanes,
+                                      ZPixmap);
+        if (!row)
+            return true;
+        bool found = false;
+        for (int i = 1; i <= POINTS; ++i)
+            found = found || (XGetPixel(row, i * width / (POINTS + 1), 0) & 0xffffff) == 0;
+        XDestroyImage(row);
+        return found;
+    }
+
     ::Display* m_display;
     Atom m_list;
     XErrorHandler m_oldHandler;
