@@ -80,7 +80,10 @@ Runs RunBoth(Folder const& folder, std::string const& command, std::string const
 
 void MeasureImport(Table& table)
 {
-    if (!table.Wants("import, 100,000 x 20"))
+    Claim const wholeClaim{"import, 100,000 x 20, whole process: against gretlcli", 1.0};
+    Claim const aloneClaim{"import, 100,000 x 20, less an empty run: against gretlcli", 1.0};
+    Claim const memoryClaim{"import, 100,000 x 20, peak memory: against the numbers", 2.0, "MB"};
+    if (!table.Wants(wholeClaim.name) && !table.Wants(aloneClaim.name) && !table.Wants(memoryClaim.name))
         return;
     Folder const folder;
     auto const workbench = [&]
@@ -100,8 +103,8 @@ void MeasureImport(Table& table)
         alone.Take([&] { return ours.Seconds(); }, [&] { return theirs.Seconds(); });
         memory.Take([&] { return ours.Megabytes(); }, [] { return DATA_MEGABYTES; });
     }
-    table.Add({"import, 100,000 x 20, whole process: against gretlcli", 1.0}, whole);
-    table.Add({"import, 100,000 x 20, less an empty run: against gretlcli", 1.0}, alone);
-    table.Add({"import, 100,000 x 20, peak memory: against the numbers", 2.0, "MB"}, memory);
+    table.Add(wholeClaim, whole);
+    table.Add(aloneClaim, alone);
+    table.Add(memoryClaim, memory);
 }
 } // namespace benchmarks

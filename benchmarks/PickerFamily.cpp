@@ -28,8 +28,6 @@ void Measure(Table& table, char const* name, wxFrame* frame, wxArrayString& name
 
 void MeasurePickers(Table& table)
 {
-    if (!table.Wants("Picker, 1,000 names"))
-        return;
     wxArrayString names;
     for (int i = 0; i < 1000; ++i)
         names.Add("name" + std::to_string(i));

@@ -83,8 +83,6 @@ private:
 
 void MeasureTrees(Table& table)
 {
-    if (!table.Wants("DatasetsPane"))
-        return;
     Window window;
     auto datasets = Workspace(DATASETS);
     auto twice = Workspace(2 * DATASETS);
