@@ -29,16 +29,21 @@ WAGES_PRINTED = ("obs\tyear\t wage\tregion\n"
 WAGES_CELLS = "2001\t12.5\tnorth\n2002\t.\tsouth\n2003\t14.25\teast"
 
 
-def press_until(gone_or_come, *keys):
-    """Presses keys, again if they came too early to be taken, until the condition holds."""
+def retry_until(condition, act, what):
+    """Acts, and again if it came too early to be taken, until the condition holds; gives its value."""
     def attempt():
-        desktop.key(*keys)
+        act()
         try:
-            return desktop.wait_until(gone_or_come, "", patience=2)
+            return desktop.wait_until(condition, what, patience=3)
         except desktop.DesktopError:
             return None
 
-    return desktop.wait_until(attempt, f"an effect of {' '.join(keys)}", PATIENCE)
+    return desktop.wait_until(attempt, what, PATIENCE)
+
+
+def press_until(condition, *keys):
+    """Presses keys until the condition holds; gives its value."""
+    return retry_until(condition, lambda: desktop.key(*keys), f"an effect of {' '.join(keys)}")
 
 
 class Bench:
@@ -81,14 +86,10 @@ class Bench:
         desktop.key("ctrl+a")
         desktop.type_text(str(path))
 
-        def gone():
-            if box.exists():
-                # A first click may only close the list of completions.
-                _, _, width, height = box.geometry()
-                box.click(width - 45, height - 28)
-            return not box.exists()
-
-        desktop.wait_until(gone, f"the end of {title!r}", PATIENCE)
+        _, _, width, height = box.geometry()
+        # A first click may only close the list of completions.
+        retry_until(lambda: not box.exists(), lambda: box.click(width - 45, height - 28),
+                    f"the end of {title!r}")
 
     # Files from another program.
 
@@ -173,6 +174,12 @@ class TestCase(unittest.TestCase):
     def start(self, *arguments, title="Untitled - Zenqo Workbench"):
         """Starts the program and waits for its window."""
         return Bench(self.program(*arguments), title)
+
+    def start_with_wages(self):
+        """A workbench with the dataset `wages`, which is not saved."""
+        data = self.file("wages.csv", WAGES)
+        script = self.file("begin.zqs", f'wages = import("{data}", ",");\n')
+        return self.start("--run", script, title="*Untitled - Zenqo Workbench")
 
     def finish(self, bench):
         """Closes the window and looks at what the process leaves behind."""

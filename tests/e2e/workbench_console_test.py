@@ -2,7 +2,7 @@
 
 import desktop
 import workbench
-from workbench import WAGES, WAGES_PRINTED, Bench
+from workbench import WAGES_PRINTED, Bench
 
 TEX = r"""\begin{tabular}{lrrr}
 obs&year& wage&region\\
@@ -20,9 +20,7 @@ class Tables(workbench.TestCase):
 
     def printed(self):
         """A workbench that shows a printed dataset at the top of its console."""
-        bench = self.start()
-        bench.import_by_drop(self.file("wages.csv", WAGES), "wages")
-        bench.wait_title("*Untitled - Zenqo Workbench")
+        bench = self.start_with_wages()
         bench.console()
         desktop.key("ctrl+l", "ctrl+p")
         self.text = bench.wait_console("\n" + WAGES_PRINTED)
