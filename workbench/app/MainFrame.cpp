@@ -60,7 +60,8 @@ MainFrame::MainFrame(std::string const& samples)
     Bind(wxEVT_PRINT_AND_RUN, &MainFrame::OnPrintAndRun, this);
     Bind(wxEVT_CLOSE_WINDOW, &MainFrame::OnClose, this);
     Bind(wxEVT_CHAR_HOOK, &MainFrame::OnCharHook, this);
-    SetMinSize(wxSize(800, 500));
+    // Any lower, and the desktop's notebook complains of too little room for its pages.
+    SetMinSize(wxSize(800, 560));
     m_side->Update(m_workspace);
     m_console->PrintOnStartup();
     NoteWhetherSaved();
