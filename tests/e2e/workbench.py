@@ -154,6 +154,8 @@ class Bench:
 class TestCase(unittest.TestCase):
     """A test with a folder of its own. Whatever it starts must end well and say nothing on standard error."""
 
+    maxDiff = None
+
     def setUp(self):
         scratch = tempfile.TemporaryDirectory(prefix="zenqo-e2e-")
         self.addCleanup(scratch.cleanup)
