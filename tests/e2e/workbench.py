@@ -185,8 +185,9 @@ class TestCase(unittest.TestCase):
 
     def finish(self, bench):
         """Closes the window and looks at what the process leaves behind."""
-        self.assertEqual(bench.quit(), 0)
+        status = bench.quit()
         self.assertEqual(bench.program.errors(), "")
+        self.assertEqual(status, 0)
         self.assertEqual(bench.program.output(), "")
 
 
