@@ -5,7 +5,7 @@
             bench = self.start()
             bench.drop(bench.TREE, self.file("wages.csv", "year,wage\\n2001,12.5\\n"))
 
-A test file is run as FILE WORKBENCH DRAG_SOURCE.
+A test file is run as FILE WORKBENCH DRAG_SOURCE [CLASS.TEST ...].
 """
 
 import sys
@@ -192,4 +192,4 @@ class TestCase(unittest.TestCase):
 
 
 def main():
-    unittest.main(argv=sys.argv[:1], verbosity=2)
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:], verbosity=2)
