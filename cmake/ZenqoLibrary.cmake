@@ -33,6 +33,7 @@ set(zenqo_private_sources
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
   common/LabelColours.cpp
+  common/MatrixText.cpp
   common/NameList.cpp
   common/Number.cpp
   common/Records.cpp

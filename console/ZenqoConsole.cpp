@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
-#include <sstream>
 
 #include <wx/dcscreen.h>
 #include <wx/sizer.h>
 
 #include "common/DroppedFile.h"
+#include "common/MatrixText.h"
 #include "common/ScriptEvent.h"
 #include "common/Text.h"
 #include "console/MainTextCtrl.h"
@@ -124,12 +124,11 @@ void ZenqoConsole::PrintOnConsole(Eigen::MatrixXd const& matrix)
     // Formatted first and written at once: a text control takes one long text far faster than many
     // short ones.
     Eigen::IOFormat const format = Zenqo_SYSTEM_NAMESPACE::GLOBAL_IOFormatConsole;
-    std::ostringstream text;
-    if (m_gui && matrix.rows() > m_maxLines)
-        text << matrix.block(matrix.rows() - m_maxLines, 0, m_maxLines, matrix.cols()).format(format);
-    else
-        text << matrix.format(format);
-    Print({{text.str() + "\n\n", nullptr}}, Flush::Yes);
+    bool const cut = m_gui && matrix.rows() > m_maxLines;
+    Eigen::Index const first = cut ? matrix.rows() - m_maxLines : 0;
+    std::string const text
+        = zenqo::MatrixText(matrix.block(first, 0, matrix.rows() - first, matrix.cols()), format);
+    Print({{text + "\n\n", nullptr}}, Flush::Yes);
 }
 
 void ZenqoConsole::PrintOnConsoleNewLine() { Print({{"\n", nullptr}}); }

@@ -13,7 +13,6 @@
 #include <wx/app.h>
 #include <wx/cmdline.h>
 #include <wx/filename.h>
-#include <wx/image.h>
 #include <wx/stdpaths.h>
 
 #include "engine/Globals.h"
@@ -51,7 +50,6 @@ public:
     {
         if (!wxApp::OnInit())
             return false;
-        wxInitAllImageHandlers();
         Zenqo_SYSTEM_NAMESPACE::RUN_GUI = m_batch.empty();
         Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM = InstallationRoot();
         if (m_batch.empty())
