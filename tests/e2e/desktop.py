@@ -183,12 +183,19 @@ class Window:
         return path
 
 
+def search(*criteria):
+    """The shown windows that xdotool finds, looked for again when one vanishes meanwhile."""
+    for _ in range(20):
+        done = subprocess.run(["xdotool", "search", "--onlyvisible", *criteria],
+                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
+        if "BadWindow" not in done.stderr:
+            return [Window(number) for number in done.stdout.split()]
+    raise DesktopError(f"xdotool search {' '.join(criteria)}: {done.stderr}")
+
+
 def windows(title=None):
     """The shown windows, those with exactly this title if one is given."""
-    pattern = "^" + re.escape(title) + "$" if title is not None else ".+"
-    done = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", pattern],
-                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False)
-    return [Window(number) for number in done.stdout.split()]
+    return search("--name", "^" + re.escape(title) + "$" if title is not None else ".+")
 
 
 def wait_window(title, patience=PATIENCE):

@@ -24,9 +24,13 @@ class LongWork(workbench.TestCase):
 
     def readouts(self):
         """The small windows of the program, which have no title."""
-        found = desktop.run("xdotool", "search", "--onlyvisible", "--class", "zenqo-workbench")
-        shown = [desktop.Window(number) for number in found.split()]
-        return [window for window in shown if window.geometry()[2:] == (196, 60)]
+        def is_readout(window):
+            try:
+                return window.geometry()[2:] == (196, 60)
+            except desktop.DesktopError:
+                return False  # It has gone meanwhile.
+
+        return [window for window in desktop.search("--class", "zenqo-workbench") if is_readout(window)]
 
     def page(self, bench, name):
         """What the page shows now, as a number that tells pictures apart."""
