@@ -5,6 +5,7 @@ set(zenqo_public_classes
   console/ZenqoConsole
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  modelspec/VariablePicker_yX
   panes/DataGrid
   panes/DatasetsPane
   panes/MatricesPane
@@ -33,15 +34,20 @@ set(zenqo_private_sources
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
   common/LabelColours.cpp
+  common/ListBoxItems.cpp
   common/MatrixText.cpp
   common/NameList.cpp
   common/Number.cpp
   common/Records.cpp
   common/RemainingTime.cpp
+  common/RoleGrid.cpp
+  common/RoleLists.cpp
   common/SaveFileBox.cpp
   common/ScriptEvent.cpp
   common/TexText.cpp
   common/Text.cpp
+  common/TransferButton.cpp
+  common/VariableName.cpp
   common/Warning.cpp)
 
 set(zenqo_public_headers ${zenqo_engine_headers})

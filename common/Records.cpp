@@ -1,6 +1,6 @@
 #include "common/Records.h"
 
-#include "engine/Dataset.h"
+#include "common/Text.h"
 #include "engine/Sentinels.h"
 
 namespace zenqo
@@ -8,5 +8,21 @@ namespace zenqo
 bool HasVariables(Dataset const& dataset)
 {
     return dataset.name != EMPTY_DATASET && !dataset.varNames.empty() && !dataset.varNames[0].empty();
+}
+
+wxArrayString VariableNames(DatasetMap const& datasets, std::string const& name)
+{
+    auto const found = datasets.find(name);
+    return found == datasets.end() ? wxArrayString() : found->second->varNames;
+}
+
+wxArrayString DrawNames(ModelMap const& models, std::string const& name)
+{
+    wxArrayString names;
+    auto const found = models.find(name);
+    if (found != models.end())
+        for (std::string const& drawName : found->second->drawNames)
+            names.Add(ToWide(drawName));
+    return names;
 }
 } // namespace zenqo

@@ -1,0 +1,58 @@
+#include "modelspec/VariablePicker_yX.h"
+
+#include "common/VariableRoles.h"
+#include "pickers/DatasetPicker.h"
+
+namespace
+{
+enum
+{
+    DEP,
+    IND
+};
+} // namespace
+
+VariablePicker_yX::VariablePicker_yX(wxWindow* parent, DatasetMap* datasets, int const& listHeight)
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0),
+      m_datasetPicker(new DatasetPicker(this))
+{
+    auto const grid = zenqo::BuildRoleGrid(this, {"Variables in Dataset",
+                                                  {{"Dependent Variable", zenqo::RoleKind::SINGLE},
+                                                   {"Independent Variables", zenqo::RoleKind::LIST}},
+                                                  listHeight, 3, 2});
+    zenqo::LayOutUnderPicker(this, m_datasetPicker, grid.sizer, 0, wxALL);
+    m_roles = zenqo::OfferVariables(m_datasetPicker, datasets, grid.left, grid.roles);
+
+    grid.left->Bind(wxEVT_LISTBOX, &VariablePicker_yX::OnAllVarSelected, this);
+    zenqo::BindRole(grid.roles[DEP], this, &VariablePicker_yX::OnDepVarSelected,
+                    &VariablePicker_yX::OnUpperButton);
+    zenqo::BindRole(grid.roles[IND], this, &VariablePicker_yX::OnIndVarSelected,
+                    &VariablePicker_yX::OnLowerButton);
+    m_datasetPicker->Bind(wxEVT_CHOICE, &VariablePicker_yX::OnDatasetChanged, this);
+}
+
+VariablePicker_yX::~VariablePicker_yX() = default;
+
+std::string VariablePicker_yX::GetDatasetName() const { return m_datasetPicker->GetSelectionString(); }
+
+wxString VariablePicker_yX::GetDepVar() const { return m_roles->Only(DEP); }
+
+wxArrayString VariablePicker_yX::GetIndVar() const { return m_roles->Items(IND); }
+
+bool VariablePicker_yX::GetChanged() const { return m_roles->GetChanged(); }
+
+void VariablePicker_yX::SetChanged(bool changed) { m_roles->SetChanged(changed); }
+
+void VariablePicker_yX::RedrawLhsVarList(wxArrayString& names) { m_roles->Redraw(names); }
+
+void VariablePicker_yX::OnAllVarSelected(wxCommandEvent&) { m_roles->OnLeftSelected(); }
+
+void VariablePicker_yX::OnDepVarSelected(wxCommandEvent&) { m_roles->OnRoleSelected(DEP); }
+
+void VariablePicker_yX::OnIndVarSelected(wxCommandEvent&) { m_roles->OnRoleSelected(IND); }
+
+void VariablePicker_yX::OnUpperButton(wxCommandEvent&) { m_roles->Press(DEP); }
+
+void VariablePicker_yX::OnLowerButton(wxCommandEvent&) { m_roles->Press(IND); }
+
+void VariablePicker_yX::OnDatasetChanged(wxCommandEvent&) { m_roles->Restart(); }
