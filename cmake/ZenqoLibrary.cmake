@@ -13,9 +13,17 @@ set(zenqo_public_classes
   panes/ModelsPane
   panes/ProgressDialog
   panes/StatusBar
+  pickers/AdditionalPicker1
   pickers/DatasetPicker
+  pickers/GibbsPicker
+  pickers/GibbsPickerStan
   pickers/MatrixPicker
-  pickers/ModelPicker)
+  pickers/ModelPicker
+  pickers/NotePanel
+  pickers/OutputFilePicker
+  pickers/ScriptPicker
+  pickers/StorePicker
+  pickers/TextPicker)
 
 set(zenqo_engine_headers
   engine/Dataset.h
@@ -42,10 +50,12 @@ set(zenqo_private_sources
   common/RemainingTime.cpp
   common/RoleGrid.cpp
   common/RoleLists.cpp
+  common/SamplerRows.cpp
   common/SaveFileBox.cpp
   common/ScriptEvent.cpp
   common/TexText.cpp
   common/Text.cpp
+  common/TextLabel.cpp
   common/TransferButton.cpp
   common/VariableName.cpp
   common/Warning.cpp)

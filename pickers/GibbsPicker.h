@@ -1,0 +1,40 @@
+#pragma once
+
+#include <wx/panel.h>
+
+#include "engine/Export.h"
+
+class wxTextCtrl;
+
+/// The lengths of the runs of an outside sampler, in text fields that show the engine's defaults.
+///
+/// The defaults are `GLOBAL_Gibbs`, read once, when the panel is made. The host sees to it that there
+/// are five of them: fewer end the program.
+class ZENQO_API GibbsPicker : public wxPanel
+{
+public:
+    explicit GibbsPicker(wxWindow* parent);
+
+    /// The text of a field exactly as it stands, neither trimmed nor converted.
+    ///@{
+    wxString GetSamples() const; ///< Draws that are retained of each chain.
+    wxString GetBurnin() const;  ///< Draws that each chain makes and drops first.
+    wxString GetChains() const;  ///< How many chains run.
+    wxString GetThin() const;    ///< Of so many draws one is retained.
+    wxString GetSeed() const;    ///< Of the random numbers; may be too large for a double.
+    ///@}
+
+    /// Looks at burn-in, chains, thinning and seed, in this order, and stops at the first that is
+    /// no whole number of the machine's range. Returns true, with `message` empty, if all are;
+    /// otherwise false, with what is to be told the user in `message`. Zero passes, and so does a sign
+    /// that the conversion takes. The retained draws are not looked at. The picker shows nothing
+    /// itself: the owner calls this before it accepts, and shows the message.
+    bool ValidateInput(wxString& message) const;
+
+private:
+    wxTextCtrl* m_samples;
+    wxTextCtrl* m_chains;
+    wxTextCtrl* m_burnin;
+    wxTextCtrl* m_thin;
+    wxTextCtrl* m_seed;
+};
