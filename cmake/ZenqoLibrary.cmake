@@ -6,6 +6,7 @@ set(zenqo_public_classes
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
   modelspec/VariablePicker_yX
+  modelspec/VariablePickerMark
   panes/DataGrid
   panes/DatasetsPane
   panes/MatricesPane
@@ -15,15 +16,18 @@ set(zenqo_public_classes
   panes/StatusBar
   pickers/AdditionalPicker1
   pickers/DatasetPicker
+  pickers/DrawsPicker
   pickers/GibbsPicker
   pickers/GibbsPickerStan
   pickers/MatrixPicker
   pickers/ModelPicker
+  pickers/ModelPickerPMP
   pickers/NotePanel
   pickers/OutputFilePicker
   pickers/ScriptPicker
   pickers/StorePicker
-  pickers/TextPicker)
+  pickers/TextPicker
+  pickers/VariablePickerSingle)
 
 set(zenqo_engine_headers
   engine/Dataset.h
@@ -43,6 +47,7 @@ set(zenqo_private_sources
   common/DroppedFile.cpp
   common/LabelColours.cpp
   common/ListBoxItems.cpp
+  common/ListPair.cpp
   common/MatrixText.cpp
   common/NameList.cpp
   common/Number.cpp

@@ -18,11 +18,7 @@ wxArrayString VariableNames(DatasetMap const& datasets, std::string const& name)
 
 wxArrayString DrawNames(ModelMap const& models, std::string const& name)
 {
-    wxArrayString names;
     auto const found = models.find(name);
-    if (found != models.end())
-        for (std::string const& drawName : found->second->drawNames)
-            names.Add(ToWide(drawName));
-    return names;
+    return found == models.end() ? wxArrayString() : ToWide(found->second->drawNames);
 }
 } // namespace zenqo

@@ -10,11 +10,6 @@
 
 namespace zenqo
 {
-namespace
-{
-constexpr int LIST_WIDTH = 180;
-} // namespace
-
 long const LIST_OF_MANY = wxLB_EXTENDED | wxHSCROLL;
 long const LIST_OF_ONE = wxHSCROLL;
 
@@ -39,10 +34,12 @@ void AddTransferButton(wxSizer* sizer, wxButton* button)
 
 void AddGap(wxSizer* sizer) { sizer->Add(0, 0, 1, wxEXPAND); }
 
-CaptionedList BuildCaptionedList(wxPanel* panel, wxString const& caption, wxSize const& size)
+CaptionedList BuildCaptionedList(wxPanel* panel, wxString const& caption, wxSize const& size,
+                                 int rows, int growingRow)
 {
-    auto* const column = new wxFlexGridSizer(2, 1, 0, 0);
-    column->AddGrowableRow(1, 20);
+    auto* const column = new wxFlexGridSizer(rows, 1, 0, 0);
+    if (growingRow >= 0)
+        column->AddGrowableRow(static_cast<std::size_t>(growingRow), 20);
     AddCaption(column, panel, caption);
     auto* const list = MakeList(panel, size, LIST_OF_MANY);
     AddList(column, list);

@@ -31,14 +31,20 @@ void AddTransferButton(wxSizer* sizer, wxButton* button);
 void AddGap(wxSizer* sizer);
 ///@}
 
-/// The empty left list and the column in which it stands under its caption, of which the list takes
-/// all extra height.
+/// The width in pixels of most lists.
+inline constexpr int LIST_WIDTH = 180;
+
+/// An empty list of many and the column in which it stands under its caption.
 struct CaptionedList
 {
     wxFlexGridSizer* sizer;
     wxListBox* list;
 };
-CaptionedList BuildCaptionedList(wxPanel* panel, wxString const& caption, wxSize const& size);
+
+/// Makes both. The caption is row 0 of the column's `rows` and the list row 1; `growingRow` takes all
+/// extra height, none does if it is negative.
+CaptionedList BuildCaptionedList(wxPanel* panel, wxString const& caption, wxSize const& size,
+                                 int rows = 2, int growingRow = 1);
 
 /// A role list with its caption above and its button beside it, one pair of rows in a grid of two
 /// columns. `rows` is the height of a list of many; a list of one is as high as one row.

@@ -23,6 +23,15 @@ wxString ToWide(std::string const& text)
     return wxString(text.data(), wxConvLibc, text.size());
 }
 
+wxArrayString ToWide(std::vector<std::string> const& texts)
+{
+    wxArrayString wide;
+    wide.Alloc(texts.size());
+    for (std::string const& text : texts)
+        wide.Add(ToWide(text));
+    return wide;
+}
+
 std::string ToNarrow(wxString const& text)
 {
     wxScopedCharBuffer const narrow = text.mb_str(wxConvLibc);
