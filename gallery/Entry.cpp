@@ -3,13 +3,15 @@
 #include <iterator>
 
 #include <wx/frame.h>
+#include <wx/listbox.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 
 std::vector<Entry> AllEntries()
 {
     std::vector<Entry> all;
-    for (auto&& entries : {ConsoleEntries(), PickerEntries(), DataDialogEntries(), PaneEntries()})
+    for (auto&& entries : {ConsoleEntries(), PickerEntries(), ModelSpecEntries(), DataDialogEntries(),
+                           PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());
     return all;
 }
@@ -26,4 +28,11 @@ wxFrame* FrameAround(std::function<wxWindow*(wxFrame*)> const& make, wxSize size
     size.SetDefaults(best);
     frame->SetClientSize(size);
     return frame;
+}
+
+void SelectInFirstList(wxWindow const* picker, std::vector<int> const& entries)
+{
+    auto* const list = In<wxListBox>(picker);
+    for (int const entry : entries)
+        list->SetSelection(entry);
 }

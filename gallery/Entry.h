@@ -5,11 +5,11 @@
 #include <vector>
 
 #include <wx/gdicmn.h>
+#include <wx/window.h>
 
 struct Shelf;
 class wxFrame;
 class wxTopLevelWindow;
-class wxWindow;
 
 /// One widget of the gallery.
 struct Entry
@@ -28,9 +28,23 @@ std::vector<Entry> AllEntries();
 
 std::vector<Entry> ConsoleEntries();
 std::vector<Entry> PickerEntries();
+std::vector<Entry> ModelSpecEntries();
 std::vector<Entry> DataDialogEntries();
 std::vector<Entry> PaneEntries();
 
 /// A frame for a widget that is a part of a window. `make` makes the widget with the frame as
 /// parent. The frame gets the size `size`, or the widget's own best size where that says -1.
 wxFrame* FrameAround(std::function<wxWindow*(wxFrame*)> const& make, wxSize size = wxDefaultSize);
+
+/// The first control of one class in a picker.
+template <class Control>
+Control* In(wxWindow const* picker)
+{
+    for (auto* const child : picker->GetChildren())
+        if (auto* const control = dynamic_cast<Control*>(child))
+            return control;
+    return nullptr;
+}
+
+/// Selects `entries` in the first list of `picker`, from which its buttons move.
+void SelectInFirstList(wxWindow const* picker, std::vector<int> const& entries);

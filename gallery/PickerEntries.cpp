@@ -9,15 +9,18 @@
 #include "gallery/Shelf.h"
 #include "pickers/AdditionalPicker1.h"
 #include "pickers/DatasetPicker.h"
+#include "pickers/DrawsPicker.h"
 #include "pickers/GibbsPicker.h"
 #include "pickers/GibbsPickerStan.h"
 #include "pickers/MatrixPicker.h"
 #include "pickers/ModelPicker.h"
+#include "pickers/ModelPickerPMP.h"
 #include "pickers/NotePanel.h"
 #include "pickers/OutputFilePicker.h"
 #include "pickers/ScriptPicker.h"
 #include "pickers/StorePicker.h"
 #include "pickers/TextPicker.h"
+#include "pickers/VariablePickerSingle.h"
 
 namespace
 {
@@ -43,16 +46,6 @@ template <class Picker, class... Arguments>
 wxTopLevelWindow* Alone(Arguments... arguments)
 {
     return FrameAround([=](wxFrame* frame) mutable { return new Picker(frame, arguments...); });
-}
-
-/// The first control of one class in a picker.
-template <class Control>
-Control* In(wxWindow const* picker)
-{
-    for (auto* const child : picker->GetChildren())
-        if (auto* const control = dynamic_cast<Control*>(child))
-            return control;
-    return nullptr;
 }
 
 /// Chooses as the user does, so that the picker hears of it.
@@ -106,6 +99,43 @@ wxTopLevelWindow* StoredModel()
             return picker;
         });
 }
+
+/// Moves `entries` of the first list of a picker with one button to the other one.
+template <class Picker>
+Picker* WithChosen(Picker* picker, std::vector<int> const& entries)
+{
+    SelectInFirstList(picker, entries);
+    wxCommandEvent event;
+    picker->OnMoveButton(event);
+    return picker;
+}
+
+wxTopLevelWindow* Draws(Shelf& shelf)
+{
+    return FrameAround(
+        [&](wxFrame* frame)
+        { return WithChosen(new DrawsPicker(frame, &shelf.models, 235, 18, "Draws to Plot"), {1, 2}); });
+}
+
+wxTopLevelWindow* ModelsToCompare(Shelf& shelf)
+{
+    std::vector<std::string> names;
+    for (auto const& entry : shelf.models)
+        names.push_back(entry.first);
+    return FrameAround([&](wxFrame* frame)
+                       { return WithChosen(new ModelPickerPMP(frame, names), {0, 1}); });
+}
+
+wxTopLevelWindow* SomeVariables(Shelf& shelf)
+{
+    return FrameAround(
+        [&](wxFrame* frame)
+        {
+            auto* const picker
+                = new VariablePickerSingle(frame, &shelf.datasets, 235, "Variables to Plot");
+            return WithChosen(picker, {1, 3});
+        });
+}
 } // namespace
 
 std::vector<Entry> PickerEntries()
@@ -114,10 +144,12 @@ std::vector<Entry> PickerEntries()
         {"pickers", "AdditionalPicker1",
          [](Shelf&) { return Alone<AdditionalPicker1>(wxString("Calculate marginal likelihood")); }},
         {"pickers", "DatasetPicker", [](Shelf& shelf) { return ChoicePicker<DatasetPicker>(shelf.datasets); }},
+        {"pickers", "DrawsPicker", Draws},
         {"pickers", "GibbsPicker", [](Shelf&) { return Alone<GibbsPicker>(); }},
         {"pickers", "GibbsPickerStan", [](Shelf&) { return Alone<GibbsPickerStan>(); }},
         {"pickers", "MatrixPicker", [](Shelf& shelf) { return ChoicePicker<MatrixPicker>(shelf.matrices); }},
         {"pickers", "ModelPicker", [](Shelf& shelf) { return ChoicePicker<ModelPicker>(shelf.models); }},
+        {"pickers", "ModelPickerPMP", ModelsToCompare},
         {"pickers", "NotePanel", [](Shelf&) { return Note(); }},
         {"pickers", "OutputFilePicker",
          [](Shelf&) { return Alone<OutputFilePicker>(wxString("output file")); }},
@@ -129,5 +161,6 @@ std::vector<Entry> PickerEntries()
          [](Shelf&) { return Alone<TextPicker>(wxString("alpha, beta[1], sigma"), 400, -1); }},
         {"pickers", "TextPicker, tall",
          [](Shelf&) { return Alone<TextPicker>(wxString("x = 1; y = 2;"), 500, 70); }},
+        {"pickers", "VariablePickerSingle", SomeVariables},
     };
 }
