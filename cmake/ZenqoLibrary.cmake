@@ -5,6 +5,7 @@ set(zenqo_public_classes
   console/ZenqoConsole
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  modelspec/LagsPicker
   modelspec/VariablePicker_yX
   modelspec/VariablePickerMark
   panes/DataGrid
@@ -46,6 +47,7 @@ set(zenqo_private_sources
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
   common/LabelColours.cpp
+  common/Lags.cpp
   common/ListBoxItems.cpp
   common/ListPair.cpp
   common/MatrixText.cpp

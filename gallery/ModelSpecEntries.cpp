@@ -1,11 +1,36 @@
 #include <wx/frame.h>
+#include <wx/spinctrl.h>
 
 #include "gallery/Entry.h"
 #include "gallery/Shelf.h"
+#include "modelspec/LagsPicker.h"
 #include "modelspec/VariablePickerMark.h"
 
 namespace
 {
+/// The lags of half a year of months, and of the same month the year before.
+wxTopLevelWindow* Lags()
+{
+    return FrameAround(
+        [](wxFrame* frame)
+        {
+            auto* const picker = new LagsPicker(frame);
+            auto const add = [picker](int from, int to)
+            {
+                int const values[] = {from, to};
+                int next = 0;
+                for (auto* const child : picker->GetChildren())
+                    if (auto* const spin = dynamic_cast<wxSpinCtrl*>(child))
+                        spin->SetValue(values[next++]);
+                wxCommandEvent press;
+                picker->OnButton(press);
+            };
+            add(2, 6);
+            add(12, 12);
+            return picker;
+        });
+}
+
 wxTopLevelWindow* Mark(Shelf& shelf)
 {
     return FrameAround(
@@ -23,6 +48,7 @@ wxTopLevelWindow* Mark(Shelf& shelf)
 std::vector<Entry> ModelSpecEntries()
 {
     return {
+        {"modelspec", "LagsPicker", [](Shelf&) { return Lags(); }},
         {"modelspec", "VariablePickerMark", Mark},
     };
 }
