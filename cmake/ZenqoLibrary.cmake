@@ -6,6 +6,8 @@ set(zenqo_public_classes
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
   modelspec/LagsPicker
+  modelspec/PriorPicker
+  modelspec/PriorProbPicker
   modelspec/VariablePicker_yX
   modelspec/VariablePickerMark
   panes/DataGrid
@@ -53,6 +55,7 @@ set(zenqo_private_sources
   common/MatrixText.cpp
   common/NameList.cpp
   common/Number.cpp
+  common/PriorChoice.cpp
   common/Records.cpp
   common/RemainingTime.cpp
   common/RoleGrid.cpp

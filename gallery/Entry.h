@@ -46,5 +46,14 @@ Control* In(wxWindow const* picker)
     return nullptr;
 }
 
+/// Chooses as the user does, so that the picker hears of it.
+template <class Control>
+void Choose(Control* control, wxEventType type)
+{
+    control->SetValue(true);
+    wxCommandEvent event(type, control->GetId());
+    control->ProcessWindowEvent(event);
+}
+
 /// Selects `entries` in the first list of `picker`, from which its buttons move.
 void SelectInFirstList(wxWindow const* picker, std::vector<int> const& entries);

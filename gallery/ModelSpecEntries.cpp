@@ -1,9 +1,12 @@
 #include <wx/frame.h>
+#include <wx/radiobut.h>
 #include <wx/spinctrl.h>
 
 #include "gallery/Entry.h"
 #include "gallery/Shelf.h"
 #include "modelspec/LagsPicker.h"
+#include "modelspec/PriorPicker.h"
+#include "modelspec/PriorProbPicker.h"
 #include "modelspec/VariablePickerMark.h"
 
 namespace
@@ -43,12 +46,28 @@ wxTopLevelWindow* Mark(Shelf& shelf)
             return picker;
         });
 }
+
+/// With the user's own prior, which can be defined.
+template <class Picker>
+wxTopLevelWindow* OwnPrior()
+{
+    return FrameAround(
+        [](wxFrame* frame)
+        {
+            auto* const picker = new Picker(frame);
+            // The second of the two radio buttons.
+            Choose(dynamic_cast<wxRadioButton*>(picker->GetChildren()[1]), wxEVT_RADIOBUTTON);
+            return picker;
+        });
+}
 } // namespace
 
 std::vector<Entry> ModelSpecEntries()
 {
     return {
         {"modelspec", "LagsPicker", [](Shelf&) { return Lags(); }},
+        {"modelspec", "PriorPicker", [](Shelf&) { return OwnPrior<PriorPicker>(); }},
+        {"modelspec", "PriorProbPicker", [](Shelf&) { return OwnPrior<PriorProbPicker>(); }},
         {"modelspec", "VariablePickerMark", Mark},
     };
 }

@@ -48,15 +48,6 @@ wxTopLevelWindow* Alone(Arguments... arguments)
     return FrameAround([=](wxFrame* frame) mutable { return new Picker(frame, arguments...); });
 }
 
-/// Chooses as the user does, so that the picker hears of it.
-template <class Control>
-void Choose(Control* control, wxEventType type)
-{
-    control->SetValue(true);
-    wxCommandEvent event(type, control->GetId());
-    control->ProcessWindowEvent(event);
-}
-
 wxTopLevelWindow* Note()
 {
     NotePanel* note = nullptr;
