@@ -5,9 +5,12 @@ set(zenqo_public_classes
   console/ZenqoConsole
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  modelspec/EqsNotebook
+  modelspec/EqsNotebookPage
   modelspec/LagsPicker
   modelspec/PriorPicker
   modelspec/PriorProbPicker
+  modelspec/VariablePicker_YXS
   modelspec/VariablePicker_yX
   modelspec/VariablePickerMark
   panes/DataGrid
@@ -55,6 +58,7 @@ set(zenqo_private_sources
   common/MatrixText.cpp
   common/NameList.cpp
   common/Number.cpp
+  common/PlusTab.cpp
   common/PriorChoice.cpp
   common/Records.cpp
   common/RemainingTime.cpp
@@ -63,6 +67,7 @@ set(zenqo_private_sources
   common/SamplerRows.cpp
   common/SaveFileBox.cpp
   common/ScriptEvent.cpp
+  common/SystemIcon.cpp
   common/TexText.cpp
   common/Text.cpp
   common/TextLabel.cpp

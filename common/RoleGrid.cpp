@@ -2,7 +2,6 @@
 
 #include <wx/button.h>
 #include <wx/listbox.h>
-#include <wx/panel.h>
 #include <wx/stattext.h>
 
 #include "common/SizerItem.h"
@@ -72,15 +71,5 @@ RoleGrid BuildRoleGrid(wxPanel* panel, RoleGridSpec const& spec)
     grid.sizer->Add(left.sizer, 1, wxEXPAND, 5);
     grid.sizer->Add(right, 1, wxEXPAND, 5);
     return grid;
-}
-
-void LayOutUnderPicker(wxPanel* panel, wxWindow* row, wxSizer* below, int proportion, int flags)
-{
-    auto* const sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(row, 0, wxEXPAND | wxTOP, 10);
-    sizer->Add(below, proportion, flags, 0);
-    panel->SetSizer(sizer, true);
-    panel->Layout();
-    sizer->SetSizeHints(panel);
 }
 } // namespace zenqo

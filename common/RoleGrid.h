@@ -2,15 +2,10 @@
 
 #include <vector>
 
-#include <wx/gdicmn.h>
-#include <wx/string.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
 
 #include "common/RoleLists.h"
-
-class wxFlexGridSizer;
-class wxPanel;
-class wxSizer;
-class wxWindow;
 
 namespace zenqo
 {
@@ -75,6 +70,15 @@ struct RoleGrid
 };
 RoleGrid BuildRoleGrid(wxPanel* panel, RoleGridSpec const& spec);
 
-/// Gives `panel` its sizer: the choice picker `row` on top, and `below` under it.
-void LayOutUnderPicker(wxPanel* panel, wxWindow* row, wxSizer* below, int proportion, int flags);
+/// Gives `panel` its sizer: the choice picker `row` on top, and the sizer or window `below` under it.
+template <class Below>
+void LayOutUnderPicker(wxPanel* panel, wxWindow* row, Below* below, int proportion, int flags)
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(row, 0, wxEXPAND | wxTOP, 10);
+    sizer->Add(below, proportion, flags, 0);
+    panel->SetSizer(sizer, true);
+    panel->Layout();
+    sizer->SetSizeHints(panel);
+}
 } // namespace zenqo
