@@ -14,6 +14,7 @@
 #include <wx/image.h>
 #include <wx/listbox.h>
 
+#include "engine/Globals.h"
 #include "gallery/Entry.h"
 #include "gallery/Photographer.h"
 #include "gallery/Shelf.h"
@@ -50,6 +51,7 @@ public:
         std::setlocale(LC_ALL, "");
         std::setlocale(LC_NUMERIC, "C");
         wxInitAllImageHandlers();
+        Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM = ZENQO_SHARE;
         m_shelf = std::make_unique<Shelf>(ZENQO_SAMPLES);
         m_entries = AllEntries();
 

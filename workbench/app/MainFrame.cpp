@@ -14,6 +14,7 @@
 #include "engine/Engine.h"
 #include "panes/DatasetsPane.h"
 #include "panes/StatusBar.h"
+#include "workbench/app/ModelForm.h"
 #include "workbench/app/SidePanes.h"
 #include "workbench/app/StartPage.h"
 
@@ -110,6 +111,7 @@ void MainFrame::MakeMenus()
     MakeFileMenu(*bar);
     MakeEditMenu(*bar);
     MakeDataMenu(*bar);
+    MakeModelMenu(*bar);
     MakeScriptMenu(*bar);
     MakeViewMenu(*bar);
     SetMenuBar(bar);
@@ -171,6 +173,16 @@ void MainFrame::MakeDataMenu(wxMenuBar& bar)
     AddEntry(*menu, "&Print\tCtrl+P", "Prints the shown dataset or matrix on the console",
              [this] { PrintShown(); });
     bar.Append(menu, "&Data");
+}
+
+void MainFrame::MakeModelMenu(wxMenuBar& bar)
+{
+    auto* const menu = new wxMenu;
+    AddEntry(*menu, "&Design matrix...\tCtrl+D", "Makes the matrix of one equation's variables and lags",
+             [this] { FillForm<DesignForm>(); });
+    AddEntry(*menu, "&System of equations...", "Makes a matrix for each equation of a system",
+             [this] { FillForm<SystemForm>(); });
+    bar.Append(menu, "&Model");
 }
 
 void MainFrame::MakeScriptMenu(wxMenuBar& bar)
@@ -271,6 +283,22 @@ void MainFrame::ExportData()
     if (dialog.ShowModal() == wxID_OK)
         Run("export(" + dialog.GetDatasetName() + ", \"" + dialog.GetFileName() + "\", \""
             + DelimiterText(dialog.GetDelimiter()) + "\");");
+}
+
+template <class Form>
+void MainFrame::FillForm()
+{
+    if (m_workspace.datasets.empty())
+    {
+        wxMessageBox("There is no dataset whose variables could be chosen.", "Zenqo Workbench",
+                     wxOK | wxICON_INFORMATION, this);
+        return;
+    }
+    Form form(this, &m_workspace.datasets);
+    if (form.ShowModal() != wxID_OK)
+        return;
+    ShowPage(PAGE_CONSOLE);
+    Run(form.Script());
 }
 
 void MainFrame::PrintShown()

@@ -53,6 +53,7 @@ private:
     void MakeFileMenu(wxMenuBar& bar);
     void MakeEditMenu(wxMenuBar& bar);
     void MakeDataMenu(wxMenuBar& bar);
+    void MakeModelMenu(wxMenuBar& bar);
     void MakeScriptMenu(wxMenuBar& bar);
     void MakeViewMenu(wxMenuBar& bar);
     void MakePages(wxWindow* parent, std::string const& samples);
@@ -66,6 +67,7 @@ private:
     void ImportData();
     void ExportData();
     void PrintShown();
+    template <class Form> void FillForm();
     void RunScript();
     void SaveSession();
     void EditKey(int key);

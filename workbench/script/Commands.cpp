@@ -1,8 +1,12 @@
 #include "workbench/script/Commands.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <sstream>
 
 #include "workbench/engine/DelimitedText.h"
+#include "workbench/engine/DesignMatrix.h"
 #include "workbench/engine/WorkspaceFile.h"
 #include "workbench/script/Nearest.h"
 #include "workbench/script/Output.h"
@@ -14,11 +18,52 @@ namespace
 {
 // ----------------------------------------------------------------------------------- the commands
 
+constexpr int MOST_LAGS = 1000000;
+
+/// The pieces of a text between its blanks.
+std::vector<std::string> Words(std::string const& text)
+{
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
 Outcome RunClear(Context const&, Arguments const& arguments)
 {
     arguments.AnyObject(0);
     Outcome outcome;
     outcome.removed.push_back(arguments.Text(0));
+    return outcome;
+}
+
+/// The lags of a variable: whole numbers, in a row or a column.
+std::vector<int> LagsOf(Arguments const& arguments, std::size_t index)
+{
+    std::vector<int> lags;
+    if (index >= arguments.Count())
+        return lags;
+    Eigen::MatrixXd const matrix = arguments.MatrixAt(index);
+    for (double const lag : matrix.reshaped())
+    {
+        if (!(std::abs(lag) <= MOST_LAGS) || lag != std::floor(lag))
+            throw ScriptError("a lag is a whole number between " + std::to_string(-MOST_LAGS) + " and "
+                                  + std::to_string(MOST_LAGS),
+                              arguments.PositionOf(index));
+        lags.push_back(static_cast<int>(lag));
+    }
+    return lags;
+}
+
+Outcome RunDesign(Context const& context, Arguments const& arguments)
+{
+    auto const design = MakeDesignMatrix(*arguments.DatasetAt(0), arguments.Text(1),
+                                         Words(arguments.Text(2)), LagsOf(arguments, 3));
+    std::string text = "\n" + std::to_string(design.values.rows()) + " observations, "
+                       + std::to_string(design.omitted) + " left out; columns:";
+    for (auto const& column : design.columns)
+        text += " " + column;
+    context.output.Text(text + "\n");
+    Outcome outcome;
+    outcome.result = std::make_shared<Eigen::MatrixXd>(design.values);
     return outcome;
 }
 
@@ -159,6 +204,14 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Takes an object out of the workspace.",
          RunClear},
+        {"design",
+         {{"name", Kind::DatasetName},
+          {"dependent", Kind::String},
+          {"independent", Kind::String},
+          {"lags", Kind::Matrix, true}},
+         Naming::Always,
+         "Makes the matrix of a dependent variable, independent ones and lags of the dependent one.",
+         RunDesign},
         {"export",
          {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}},
          Naming::Never,

@@ -51,6 +51,7 @@ public:
 
     std::size_t Count() const { return m_arguments.size(); }
     std::string const& Text(std::size_t index) const { return m_arguments[index].text; }
+    Position PositionOf(std::size_t index) const { return m_arguments[index].position; }
     char Delimiter(std::size_t index) const;
     double Number(std::size_t index) const { return m_arguments[index].matrix(0, 0); }
     Object AnyObject(std::size_t index) const;

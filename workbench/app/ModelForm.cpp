@@ -1,0 +1,184 @@
+#include "workbench/app/ModelForm.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include "engine/Functions.h"
+#include "modelspec/LagsPicker.h"
+#include "modelspec/VariablePicker_YXS.h"
+#include "modelspec/VariablePicker_yX.h"
+#include "pickers/AdditionalPicker1.h"
+
+namespace workbench
+{
+namespace
+{
+constexpr int LIST_HEIGHT = 220;
+
+std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
+
+/// Names with blanks between them; the one empty name of an empty choice gives an empty text.
+std::string Joined(wxArrayString const& names)
+{
+    std::string joined;
+    for (wxString const& name : names)
+        joined += (joined.empty() ? "" : " ") + Narrow(name);
+    return joined;
+}
+
+/// `name = design(dataset, "dependent", "independent", [lags]);`
+std::string DesignStatement(std::string const& name, std::string const& dataset, wxString const& dependent,
+                            wxArrayString const& independent, std::vector<int> const& lags = {})
+{
+    std::string statement
+        = name + " = design(" + dataset + ", \"" + Narrow(dependent) + "\", \"" + Joined(independent) + "\"";
+    for (std::size_t i = 0; i < lags.size(); ++i)
+        statement += (i == 0 ? ", [" : ", ") + std::to_string(lags[i]);
+    return statement + (lags.empty() ? "" : "]") + ");";
+}
+
+/// The form's sizer, with `content` above the end that is still to come.
+wxSizer* Begin(wxDialog* form, wxSizer* content)
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(content, 1, wxEXPAND | wxLEFT | wxRIGHT, 8);
+    form->SetSizer(sizer);
+    return sizer;
+}
+
+wxSizer* Around(wxWindow* window)
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(window, 1, wxEXPAND);
+    return sizer;
+}
+} // namespace
+
+FormEnd::FormEnd(wxDialog* form, wxSizer* sizer, wxString const& name, std::vector<Check> checks)
+    : m_form(form), m_checks(std::move(checks))
+{
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(new wxStaticText(form, wxID_ANY, "Name:"), 0, wxALIGN_CENTER_VERTICAL | wxRIGHT, 8);
+    m_name = new wxTextCtrl(form, wxID_ANY, name);
+    m_name->SetName("name");
+    row->Add(m_name, 1);
+    sizer->Add(row, 0, wxEXPAND | wxALL, 12);
+    sizer->Add(form->CreateSeparatedButtonSizer(wxOK | wxCANCEL), 0, wxEXPAND | wxALL, 8);
+    form->Bind(wxEVT_BUTTON, &FormEnd::OnAccept, this, wxID_OK);
+    sizer->SetSizeHints(form);
+    form->CentreOnParent();
+}
+
+std::string FormEnd::Name() const { return Narrow(m_name->GetValue()); }
+
+void FormEnd::OnAccept(wxCommandEvent& event)
+{
+    wxString problem = CheckID(Name()) ? wxString()
+                                       : wxString("The name must consist of letters, digits and underscores, "
+                                                  "and must not begin with a digit.");
+    for (Check const& check : m_checks)
+        if (problem.empty())
+            problem = check();
+    if (problem.empty())
+        event.Skip();
+    else
+        wxMessageBox(problem, m_form->GetTitle(), wxOK | wxICON_EXCLAMATION, m_form);
+}
+
+DesignForm::DesignForm(wxWindow* parent, DatasetMap* datasets)
+    : wxDialog(parent, wxID_ANY, "Design Matrix", wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      m_variables(new VariablePicker_yX(this, datasets, LIST_HEIGHT)),
+      m_end(this,
+            [this]
+            {
+                auto* const content = new wxBoxSizer(wxHORIZONTAL);
+                content->Add(m_variables, 1, wxEXPAND);
+                content->Add(MakeLags(), 0, wxALL, 12);
+                return Begin(this, content);
+            }(),
+            "X",
+            {[this]
+             {
+                 return m_variables->GetDepVar().empty() ? wxString("Choose a dependent variable.")
+                                                         : wxString();
+             },
+             [this]
+             {
+                 bool const none = m_variables->GetIndVar()[0].empty() && Lags().empty();
+                 return none ? wxString("Choose independent variables, or lags of the dependent one.")
+                             : wxString();
+             }})
+{
+}
+
+wxSizer* DesignForm::MakeLags()
+{
+    auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Lags");
+    m_withLags = new AdditionalPicker1(box->GetStaticBox(), "Lags of the dependent variable");
+    m_lags = new LagsPicker(box->GetStaticBox());
+    m_lags->Disable();
+    box->Add(m_withLags, 0, wxEXPAND);
+    box->Add(m_lags, 0, wxALL, 8);
+    m_withLags->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { m_lags->Enable(m_withLags->GetState1()); });
+    return box;
+}
+
+std::vector<int> DesignForm::Lags() const
+{
+    std::vector<int> lags;
+    if (m_withLags->GetState1())
+        for (int const lag : m_lags->GetLags())
+            if (std::find(lags.begin(), lags.end(), lag) == lags.end())
+                lags.push_back(lag);
+    return lags;
+}
+
+std::string DesignForm::Script() const
+{
+    return DesignStatement(m_end.Name(), m_variables->GetDatasetName(), m_variables->GetDepVar(),
+                           m_variables->GetIndVar(), Lags());
+}
+
+SystemForm::SystemForm(wxWindow* parent, DatasetMap* datasets)
+    : wxDialog(parent, wxID_ANY, "System of Equations", wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      m_variables(new VariablePicker_YXS(this, datasets, LIST_HEIGHT)),
+      m_end(this, Begin(this, Around(m_variables)), "X", {[this] { return FirstIncomplete(); }})
+{
+}
+
+wxString SystemForm::FirstIncomplete() const
+{
+    auto const dependent = m_variables->GetDepVars();
+    auto const independent = m_variables->GetIndVars();
+    for (std::size_t i = 0; i < dependent.size(); ++i)
+    {
+        if (dependent[i].empty())
+            return wxString::Format("Choose a dependent variable for equation %zu, or close its tab.", i + 1);
+        if (independent[i][0].empty())
+            return wxString::Format("Choose independent variables for equation %zu.", i + 1);
+    }
+    return wxString();
+}
+
+std::string SystemForm::Script() const
+{
+    auto const dependent = m_variables->GetDepVars();
+    auto const independent = m_variables->GetIndVars();
+    std::string script;
+    for (std::size_t i = 0; i < dependent.size(); ++i)
+        script += (i == 0 ? "" : "\n")
+                  + DesignStatement(m_end.Name() + "_" + std::to_string(i + 1),
+                                    m_variables->GetDatasetName(), dependent[i], independent[i]);
+    return script;
+}
+} // namespace workbench
