@@ -12,6 +12,7 @@ set(zenqo_public_classes
   modelspec/PriorProbPicker
   modelspec/VariablePicker_YXS
   modelspec/VariablePicker_yX
+  modelspec/VariablePicker_YXS
   modelspec/VariablePickerMark
   panes/DataGrid
   panes/DatasetsPane

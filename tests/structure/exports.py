@@ -45,7 +45,7 @@ def check(library, classes):
             findings.append(f"lets out {name}")
     findings += [f"does not let out {name}" for name in sorted(classes - exported)]
     for name in undefined(library):
-        plain = name.split("(")[0]
+        plain = name.split("(")[0].split("[")[0]
         # The sanitizers' own are supplied by the program.
         if plain and plain not in CONTRACT and not re.match(r"__|Zenqo_SYSTEM_NAMESPACE::\w+$", plain):
             findings.append(f"asks for {name}")
