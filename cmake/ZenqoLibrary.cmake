@@ -10,7 +10,6 @@ set(zenqo_public_classes
   modelspec/LagsPicker
   modelspec/PriorPicker
   modelspec/PriorProbPicker
-  modelspec/VariablePicker_YXS
   modelspec/VariablePicker_yX
   modelspec/VariablePicker_YXS
   modelspec/VariablePickerMark
