@@ -5,11 +5,19 @@ set(zenqo_public_classes
   console/ZenqoConsole
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  modelspec/Calculator
   modelspec/EqsNotebook
   modelspec/EqsNotebookPage
+  modelspec/ExogValuesDialog
+  modelspec/ExogValuesGrid
   modelspec/LagsPicker
+  modelspec/PriorGrid
+  modelspec/PriorGridSym
+  modelspec/PriorGridVecMat
   modelspec/PriorPicker
+  modelspec/PriorProbGrid
   modelspec/PriorProbPicker
+  modelspec/UserPointDialog
   modelspec/VariablePicker_yX
   modelspec/VariablePicker_YXS
   modelspec/VariablePickerMark
@@ -51,13 +59,16 @@ set(zenqo_private_sources
   common/DialogFrame.cpp
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
+  common/GridSize.cpp
   common/LabelColours.cpp
   common/Lags.cpp
   common/ListBoxItems.cpp
   common/ListPair.cpp
   common/MatrixText.cpp
   common/NameList.cpp
+  common/NotebookDialog.cpp
   common/Number.cpp
+  common/NumberGrid.cpp
   common/PlusTab.cpp
   common/PriorChoice.cpp
   common/Records.cpp

@@ -7,6 +7,7 @@
 #include <wx/panel.h>
 #include <wx/sizer.h>
 
+#include "common/GridSize.h"
 #include "common/LabelColours.h"
 #include "common/Number.h"
 #include "common/Text.h"
@@ -24,31 +25,10 @@ wxString LabelText(std::string const& label)
     return text;
 }
 
-/// Writes number after number into the same text: a new one for each cell would cost as much as all
-/// the rest.
-class NumberWriter
+bool IsMissing(double value, Missing missing)
 {
-public:
-    explicit NumberWriter(Missing missing) : m_missing(missing) {}
-
-    wxString const& Write(double value)
-    {
-        if (std::isnan(value) && (m_missing == Missing::ANY_NAN || !std::signbit(value)))
-            m_text = ".";
-        else
-        {
-            auto const narrow = FormatNumber(value);
-            m_wide.assign(narrow.begin(), narrow.end());
-            m_text.assign(m_wide);
-        }
-        return m_text;
-    }
-
-private:
-    Missing m_missing;
-    std::wstring m_wide;
-    wxString m_text;
-};
+    return std::isnan(value) && (missing == Missing::ANY_NAN || !std::signbit(value));
+}
 } // namespace
 
 wxGrid* BuildDisplayGrid(wxPanel* panel, wxPanel* picker)
@@ -78,20 +58,16 @@ void EmptyGrid(wxGrid* grid)
 {
     LabelColours::Of(grid).Forget();
     grid->ClearGrid();
-    if (grid->GetNumberCols() > 0)
-        grid->DeleteCols(0, grid->GetNumberCols());
-    if (grid->GetNumberRows() > 0)
-        grid->DeleteRows(0, grid->GetNumberRows());
+    SetColCount(grid, 0);
+    SetRowCount(grid, 0);
 }
 
 void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Missing missing)
 {
     wxGridUpdateLocker const drawOnce(grid);
     auto const count = static_cast<int>(columns.size());
-    if (count > 0)
-        grid->AppendCols(count);
-    if (rows > 0)
-        grid->AppendRows(rows);
+    SetColCount(grid, count);
+    SetRowCount(grid, rows);
 
     auto* const table = grid->GetTable();
     auto& colours = LabelColours::Of(grid);
@@ -101,7 +77,8 @@ void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Mi
         if (columns[col].labels)
             colours.Mark(col, std::min(rows, static_cast<int>(columns[col].labels->size())));
     }
-    NumberWriter number(missing);
+    wxString const dot = ".";
+    NumberText number;
     // Straight into the table and row by row, the way it lies in memory: the grid's own call
     // would think of repainting at each cell.
     for (int row = 0; row < rows; ++row)
@@ -110,7 +87,10 @@ void FillGrid(wxGrid* grid, int rows, std::vector<GridColumn> const& columns, Mi
             auto const& column = columns[col];
             auto const index = static_cast<std::size_t>(row);
             if (!column.labels)
-                table->SetValue(row, col, number.Write(column.numbers[index]));
+            {
+                double const value = column.numbers[index];
+                table->SetValue(row, col, IsMissing(value, missing) ? dot : number.Of(value));
+            }
             else if (index < column.labels->size())
                 table->SetValue(row, col, LabelText((*column.labels)[index]));
         }

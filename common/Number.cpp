@@ -32,4 +32,12 @@ wxString FormatNumberWide(double value)
     auto const text = Write(value, buffer);
     return wxString::FromAscii(text.data(), text.size());
 }
+
+wxString const& NumberText::Of(double value)
+{
+    Buffer buffer;
+    auto const text = Write(value, buffer);
+    m_wide.assign(text.begin(), text.end());
+    return m_text = m_wide;
+}
 } // namespace zenqo

@@ -12,4 +12,17 @@ std::string FormatNumber(double value);
 
 /// The same as text of the toolkit.
 wxString FormatNumberWide(double value);
+
+/// Writes number after number into one text, for whoever writes very many: a new text for each would
+/// cost as much as all the rest.
+class NumberText
+{
+public:
+    /// The same text as FormatNumberWide gives; it lasts until the next call.
+    wxString const& Of(double value);
+
+private:
+    std::wstring m_wide;
+    wxString m_text;
+};
 } // namespace zenqo
