@@ -46,6 +46,7 @@ private:
         {
             benchmarks::Table table(words);
             benchmarks::MeasureGrids(table);
+            benchmarks::MeasureNumberGrids(table);
             benchmarks::MeasureTrees(table);
             benchmarks::MeasureConsole(table);
             benchmarks::MeasurePickers(table);

@@ -7,6 +7,7 @@ class Table;
 /// Each measures one family of figures and adds them to the table.
 ///@{
 void MeasureGrids(Table& table);
+void MeasureNumberGrids(Table& table);
 void MeasureTrees(Table& table);
 void MeasureConsole(Table& table);
 void MeasurePickers(Table& table);

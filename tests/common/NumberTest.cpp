@@ -26,11 +26,13 @@ TEST_CASE("special values are written as a default stream writes them")
                              Limits::denorm_min(), -Limits::denorm_min(), Limits::epsilon(),
                              Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(),
                              -Limits::quiet_NaN(), 1e100, 1e-100, 1e10, 123456.5, 0.1, 1.0 / 3.0};
+    zenqo::NumberText text;
     for (double const value : values)
     {
         INFO(value);
         CHECK(zenqo::FormatNumber(value) == Streamed(value));
         CHECK(zenqo::FormatNumberWide(value).ToStdString() == Streamed(value));
+        CHECK(text.Of(value).ToStdString() == Streamed(value));
     }
     CHECK(zenqo::FormatNumber(std::nan("")) == "nan");
     CHECK(zenqo::FormatNumber(std::copysign(std::nan(""), -1.0)) == "-nan");
