@@ -53,7 +53,7 @@ void MeasureNumberGrids(Table& table)
     wxGridStringTable alone(SIZE, SIZE);
     Write(alone, matrix);
 
-    table.Compare({"PriorGridSym, 200 x 200, RedrawGrid: against the table alone", 1.5},
+    table.Compare({"PriorGridSym::RedrawGrid, 200 x 200: against a table", 1.5},
                   [&]
                   {
                       Settle();
@@ -62,7 +62,7 @@ void MeasureNumberGrids(Table& table)
                   [&] { return Seconds([&] { Write(alone, matrix); }); }, 25);
     // The sums are read, so that the reading can't be left out.
     double sum = 0.0;
-    table.Compare({"PriorGridSym, 200 x 200, ReadFields: against the table alone", 1.5},
+    table.Compare({"PriorGridSym::ReadFields, 200 x 200: against a table", 1.5},
                   [&] { return Seconds([&] { sum += grid->ReadFields().sum(); }); },
                   [&] { return Seconds([&] { sum -= Read(alone).sum(); }); }, 25);
     if (sum != 0.0)
