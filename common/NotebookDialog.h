@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/dialog.h>
+#include <wx/frame.h>
 
 class wxButton;
 class wxNotebook;
