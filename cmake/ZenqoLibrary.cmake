@@ -11,6 +11,7 @@ set(zenqo_public_classes
   modelspec/ExogValuesDialog
   modelspec/ExogValuesGrid
   modelspec/LagsPicker
+  modelspec/PriorDialog
   modelspec/PriorGrid
   modelspec/PriorGridSym
   modelspec/PriorGridVecMat

@@ -1,4 +1,5 @@
 #include <wx/frame.h>
+#include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
 #include <wx/sizer.h>
@@ -11,6 +12,7 @@
 #include "modelspec/ExogValuesDialog.h"
 #include "modelspec/ExogValuesGrid.h"
 #include "modelspec/LagsPicker.h"
+#include "modelspec/PriorDialog.h"
 #include "modelspec/PriorGrid.h"
 #include "modelspec/PriorGridSym.h"
 #include "modelspec/PriorGridVecMat.h"
@@ -178,6 +180,25 @@ wxTopLevelWindow* Keypad(Shelf&)
             return panel;
         });
 }
+
+/// The whole prior of the model, one page for each of its parts.
+wxTopLevelWindow* WholePrior(Shelf& shelf)
+{
+    Employment const model(shelf);
+    wxString title = "Prior of linear_employment";
+    auto* const dialog = new PriorDialog(
+        nullptr, title,
+        "The coefficients are <b>normal</b> with these means and this precision. The precision of the "
+        "error term, tau, follows a Gamma distribution, whose mean is shape over rate.");
+    auto* const pages = dialog->GetNotebook();
+    pages->AddPage(new PriorGrid(pages, model.names, model.posterior.moments), "Means");
+    pages->AddPage(new PriorGridSym(pages, model.names, model.precision), "Precision");
+    wxArrayString tau;
+    tau.Add("shape");
+    tau.Add("rate");
+    pages->AddPage(new PriorGrid(pages, tau, Eigen::Vector2d(0.001, 0.001)), "tau");
+    return dialog;
+}
 } // namespace
 
 std::vector<Entry> ModelSpecEntries()
@@ -187,6 +208,7 @@ std::vector<Entry> ModelSpecEntries()
         {"modelspec", "PriorPicker", [](Shelf&) { return OwnPrior<PriorPicker>(); }},
         {"modelspec", "PriorProbPicker", [](Shelf&) { return OwnPrior<PriorProbPicker>(); }},
         {"modelspec", "VariablePickerMark", Mark},
+        {"modelspec", "PriorDialog", WholePrior},
         {"modelspec", "PriorGrid", Means},
         {"modelspec", "PriorProbGrid", Probabilities},
         {"modelspec", "PriorGridSym", Precision},
