@@ -6,10 +6,12 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/listbox.h>
+#include <wx/radiobut.h>
 #include <wx/textctrl.h>
 
 #include "modelspec/EqsNotebook.h"
 #include "modelspec/LagsPicker.h"
+#include "modelspec/PriorGrid.h"
 #include "support/Find.h"
 #include "support/ListClicks.h"
 #include "support/ModalScript.h"
@@ -117,6 +119,66 @@ TEST_CASE("design form: what is missing is asked for in a fixed order, and nothi
                          });
     CHECK(end == wxID_OK);
     CHECK(form.Script() == "X2 = design(macro, \"gdp\", \"\", [1]);");
+}
+
+TEST_CASE("design form: a custom prior is defined in a dialog, kept, and becomes two matrices")
+{
+    Stage stage;
+    auto datasets = Datasets();
+    DesignForm form(stage.Frame(), &datasets);
+    auto const define = [&] { return form.FindWindow(6022); };
+    // Types into the cells of the mean, and gives what is shown before.
+    std::vector<wxString> seen;
+    auto const typeMean = [&](char const* text, int button)
+    {
+        return [&, text, button](wxDialog* dialog)
+        {
+            dialog->CallAfter(
+                [&, dialog, text, button]
+                {
+                    Pump(150);
+                    auto* const mean = Find<PriorGrid>(dialog);
+                    seen.push_back(mean->GetCellValue(0, 0));
+                    mean->SetFocus();
+                    mean->SetGridCursor(0, 0);
+                    Pump();
+                    TypeText(text);
+                    Keep(Photograph(dialog), "CoefficientPrior");
+                    Click(dialog->FindWindow(button));
+                    Pump();
+                    if (button != wxID_OK)
+                    {
+                        seen.push_back(mean->GetCellValue(0, 0));
+                        Click(dialog->FindWindow(wxID_OK));
+                    }
+                });
+            return wxID_NONE;
+        };
+    };
+    int const end = Fill(form,
+                         [&]
+                         {
+                             ModalScript dialogs;
+                             dialogs.Then(typeMean("7", 6023)).Then(typeMean("2.5", wxID_OK)).Then(
+                                 typeMean("2.5", wxID_OK));
+                             Move(&form, 0, 0);
+                             Move(&form, 0, 1);
+                             CHECK(!define()->IsEnabled());
+                             Click(Find<wxRadioButton>(&form, 1));
+                             Click(define());
+                             Click(define());
+                             // Another coefficient: the first one keeps what was typed.
+                             Move(&form, 0, 1);
+                             Click(define());
+                             Keep(Photograph(&form), "DesignForm-prior");
+                             ClickOk(form);
+                         });
+    CHECK(end == wxID_OK);
+    CHECK(seen == std::vector<wxString>{"0", "0", "0", "2.5"});
+    CHECK(form.Script()
+          == "X = design(macro, \"gdp\", \"cpi rate\");\n"
+             "X_mean = [2.5; 0];\n"
+             "X_precision = [0.0001, 0; 0, 0.0001];");
 }
 
 TEST_CASE("design form: escape closes it")

@@ -13,6 +13,7 @@
 
 #include "engine/Functions.h"
 #include "modelspec/LagsPicker.h"
+#include "modelspec/PriorPicker.h"
 #include "modelspec/VariablePicker_YXS.h"
 #include "modelspec/VariablePicker_yX.h"
 #include "pickers/AdditionalPicker1.h"
@@ -22,6 +23,7 @@ namespace workbench
 namespace
 {
 constexpr int LIST_HEIGHT = 220;
+constexpr int ID_DEFINE = 6022; ///< The prior picker's button "&Define".
 
 std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
 
@@ -97,12 +99,16 @@ DesignForm::DesignForm(wxWindow* parent, DatasetMap* datasets)
     : wxDialog(parent, wxID_ANY, "Design Matrix", wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_variables(new VariablePicker_yX(this, datasets, LIST_HEIGHT)),
+      m_prior(this),
       m_end(this,
             [this]
             {
+                auto* const side = new wxBoxSizer(wxVERTICAL);
+                side->Add(MakeLags(), 0, wxEXPAND | wxBOTTOM, 12);
+                side->Add(MakePrior(), 0, wxEXPAND);
                 auto* const content = new wxBoxSizer(wxHORIZONTAL);
                 content->Add(m_variables, 1, wxEXPAND);
-                content->Add(MakeLags(), 0, wxALL, 12);
+                content->Add(side, 0, wxALL, 12);
                 return Begin(this, content);
             }(),
             "X",
@@ -132,6 +138,16 @@ wxSizer* DesignForm::MakeLags()
     return box;
 }
 
+wxSizer* DesignForm::MakePrior()
+{
+    auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Prior of the Coefficients");
+    m_withPrior = new PriorPicker(box->GetStaticBox());
+    box->Add(m_withPrior, 0, wxEXPAND | wxALL, 4);
+    Bind(
+        wxEVT_BUTTON, [this](wxCommandEvent&) { m_prior.Define(Coefficients()); }, ID_DEFINE);
+    return box;
+}
+
 std::vector<int> DesignForm::Lags() const
 {
     std::vector<int> lags;
@@ -142,10 +158,23 @@ std::vector<int> DesignForm::Lags() const
     return lags;
 }
 
-std::string DesignForm::Script() const
+wxArrayString DesignForm::Coefficients() const
 {
-    return DesignStatement(m_end.Name(), m_variables->GetDatasetName(), m_variables->GetDepVar(),
-                           m_variables->GetIndVar(), Lags());
+    wxArrayString names = m_variables->GetIndVar();
+    if (names[0].empty())
+        names.clear();
+    for (int const lag : Lags())
+        names.Add(wxString::Format("%s(%+d)", m_variables->GetDepVar(), -lag));
+    return names;
+}
+
+std::string DesignForm::Script()
+{
+    std::string const script
+        = DesignStatement(m_end.Name(), m_variables->GetDatasetName(), m_variables->GetDepVar(),
+                          m_variables->GetIndVar(), Lags());
+    bool const isDefault = m_withPrior->GetDefaultOption();
+    return isDefault ? script : script + "\n" + m_prior.Script(m_end.Name(), Coefficients());
 }
 
 SystemForm::SystemForm(wxWindow* parent, DatasetMap* datasets)

@@ -8,9 +8,11 @@
 #include <wx/dialog.h>
 
 #include "engine/Dataset.h"
+#include "workbench/app/PriorForm.h"
 
 class AdditionalPicker1;
 class LagsPicker;
+class PriorPicker;
 class VariablePicker_YXS;
 class VariablePicker_yX;
 class wxTextCtrl;
@@ -38,23 +40,28 @@ private:
     std::vector<Check> m_checks;
 };
 
-/// The form in which the variables of one equation are chosen, and the lags of its dependent variable.
+/// The form in which the variables of one equation are chosen, the lags of its dependent variable, and
+/// the prior of its coefficients.
 class DesignForm : public wxDialog
 {
 public:
     /// `datasets` outlives the form and is not empty.
     DesignForm(wxWindow* parent, DatasetMap* datasets);
 
-    /// The statement that makes the matrix.
-    std::string Script() const;
+    /// The statement that makes the matrix, and those that make the matrices of a custom prior.
+    std::string Script();
 
 private:
     wxSizer* MakeLags();
+    wxSizer* MakePrior();
     std::vector<int> Lags() const;
+    wxArrayString Coefficients() const;
 
     VariablePicker_yX* m_variables;
     AdditionalPicker1* m_withLags;
     LagsPicker* m_lags;
+    PriorPicker* m_withPrior;
+    CoefficientPrior m_prior;
     FormEnd m_end;
 };
 
