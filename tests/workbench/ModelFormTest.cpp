@@ -159,12 +159,15 @@ TEST_CASE("design form: a custom prior is defined in a dialog, kept, and becomes
                          [&]
                          {
                              ModalScript dialogs;
-                             dialogs.Then(typeMean("7", 6023)).Then(typeMean("2.5", wxID_OK)).Then(
+                             dialogs.Then(wxID_OK).Then(typeMean("7", 6023)).Then(typeMean("2.5", wxID_OK)).Then(
                                  typeMean("2.5", wxID_OK));
-                             Move(&form, 0, 0);
-                             Move(&form, 0, 1);
                              CHECK(!define()->IsEnabled());
                              Click(Find<wxRadioButton>(&form, 1));
+                             Click(define());
+                             CHECK(dialogs.Shown().at(0).text
+                                   == "Choose variables or lags first: each of them has a coefficient.");
+                             Move(&form, 0, 0);
+                             Move(&form, 0, 1);
                              Click(define());
                              Click(define());
                              // Another coefficient: the first one keeps what was typed.

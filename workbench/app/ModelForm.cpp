@@ -143,9 +143,17 @@ wxSizer* DesignForm::MakePrior()
     auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Prior of the Coefficients");
     m_withPrior = new PriorPicker(box->GetStaticBox());
     box->Add(m_withPrior, 0, wxEXPAND | wxALL, 4);
-    Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent&) { m_prior.Define(Coefficients()); }, ID_DEFINE);
+    Bind(wxEVT_BUTTON, &DesignForm::OnDefinePrior, this, ID_DEFINE);
     return box;
+}
+
+void DesignForm::OnDefinePrior(wxCommandEvent&)
+{
+    if (Coefficients().empty())
+        wxMessageBox("Choose variables or lags first: each of them has a coefficient.", GetTitle(),
+                     wxOK | wxICON_EXCLAMATION, this);
+    else
+        m_prior.Define(Coefficients());
 }
 
 std::vector<int> DesignForm::Lags() const

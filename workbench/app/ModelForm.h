@@ -56,6 +56,7 @@ private:
     wxSizer* MakePrior();
     std::vector<int> Lags() const;
     wxArrayString Coefficients() const;
+    void OnDefinePrior(wxCommandEvent& event);
 
     VariablePicker_yX* m_variables;
     AdditionalPicker1* m_withLags;
