@@ -65,6 +65,8 @@ void SetUpNumberGrid(wxGrid* grid, int rows, int cols, NumberGridLook const& loo
     grid->EnableDragRowSize(false);
     grid->SetRowLabelSize(look.rowLabelWidth);
     grid->SetRowLabelAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    // Wide enough for the longest number of six digits, which would else be cut at its front.
+    grid->SetDefaultColSize(110, true);
 }
 
 void AlignNumbers(wxGrid* grid) { grid->SetDefaultCellAlignment(wxALIGN_RIGHT, wxALIGN_TOP); }
