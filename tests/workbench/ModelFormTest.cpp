@@ -26,12 +26,15 @@ namespace
 {
 DatasetMap Datasets() { return {{"macro", workbench::MakeDataset({"gdp", "cpi", "rate"}, 3)}}; }
 
-/// Shows a form as a user meets it and does `steps` in it, then gives how it ended.
+/// Shows a form as a user meets it and does `steps` in it, then gives how it ended. `answers` are those
+/// to the dialogs that the form shows.
 template <class Form>
-int Fill(Form& form, std::function<void()> const& steps)
+int Fill(Form& form, std::function<void()> const& steps, std::vector<ModalScript::Answer> const& answers = {})
 {
     ModalScript script;
     script.Then(wxID_NONE);
+    for (auto const& answer : answers)
+        script.Then(answer);
     form.CallAfter(
         [&]
         {
@@ -155,17 +158,17 @@ TEST_CASE("design form: a custom prior is defined in a dialog, kept, and becomes
             return wxID_NONE;
         };
     };
+    auto const refused = [](wxDialog* dialog)
+    {
+        CHECK(ShownDialog(dialog).text == "Choose variables or lags first: each of them has a coefficient.");
+        return wxID_OK;
+    };
     int const end = Fill(form,
                          [&]
                          {
-                             ModalScript dialogs;
-                             dialogs.Then(wxID_OK).Then(typeMean("7", 6023)).Then(typeMean("2.5", wxID_OK)).Then(
-                                 typeMean("2.5", wxID_OK));
                              CHECK(!define()->IsEnabled());
                              Click(Find<wxRadioButton>(&form, 1));
                              Click(define());
-                             CHECK(dialogs.Shown().at(0).text
-                                   == "Choose variables or lags first: each of them has a coefficient.");
                              Move(&form, 0, 0);
                              Move(&form, 0, 1);
                              Click(define());
@@ -175,13 +178,14 @@ TEST_CASE("design form: a custom prior is defined in a dialog, kept, and becomes
                              Click(define());
                              Keep(Photograph(&form), "DesignForm-prior");
                              ClickOk(form);
-                         });
+                         },
+                         {refused, typeMean("7", 6023), typeMean("2.5", wxID_OK), typeMean("2.5", wxID_OK)});
     CHECK(end == wxID_OK);
     CHECK(seen == std::vector<wxString>{"0", "0", "0", "2.5"});
     CHECK(form.Script()
           == "X = design(macro, \"gdp\", \"cpi rate\");\n"
              "X_mean = [2.5; 0];\n"
-             "X_precision = [0.0001, 0; 0, 0.0001];");
+             "X_precision = [1e-04, 0; 0, 1e-04];");
 }
 
 TEST_CASE("design form: escape closes it")
