@@ -142,7 +142,7 @@ wxSizer* DesignForm::MakePrior()
 {
     auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Prior of the Coefficients");
     m_withPrior = new PriorPicker(box->GetStaticBox());
-    box->Add(m_withPrior, 0, wxEXPAND | wxALL, 4);
+    box->Add(m_withPrior, 0, wxEXPAND | wxALL, 8);
     Bind(wxEVT_BUTTON, &DesignForm::OnDefinePrior, this, ID_DEFINE);
     return box;
 }
