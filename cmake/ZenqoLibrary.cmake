@@ -19,8 +19,13 @@ set(zenqo_public_classes
   modelspec/PriorProbGrid
   modelspec/PriorProbPicker
   modelspec/UserPointDialog
+  modelspec/VariablePicker_Y_X
   modelspec/VariablePicker_yX
+  modelspec/VariablePicker_yX2
   modelspec/VariablePicker_YXS
+  modelspec/VariablePicker_yXZ
+  modelspec/VariablePicker_yZX
+  modelspec/VariablePicker_yZX2
   modelspec/VariablePickerMark
   panes/DataGrid
   panes/DatasetsPane

@@ -28,23 +28,19 @@ std::vector<int> IndicesAfter(std::vector<int> const& kept, std::vector<int> con
     return moved;
 }
 
-/// Selects exactly the entries at `indices`.
-void Select(wxListBox* list, std::vector<int> const& indices)
-{
-    if (SelectionsOf(list) == indices)
-        return;
-    DeselectAll(list);
-    for (int const index : indices)
-        list->SetSelection(index);
-}
-
-/// Puts `names` in the place of all entries and scrolls to entry `top`.
-void Refill(wxListBox* list, wxArrayString const& names, int top)
+/// Puts `names` in the place of all entries.
+void Refill(wxListBox* list, wxArrayString const& names)
 {
     list->Clear();
     AppendItems(list, names);
-    if (top > 0 && !names.empty())
-        list->SetFirstItem(std::min(top, static_cast<int>(names.size()) - 1));
+}
+
+/// Scrolls to entry `top`, or as near as there are entries; not at all if it is below 0, as the list
+/// tells of its top while it isn't on the screen.
+void ScrollTo(wxListBox* list, int top)
+{
+    if (top >= 0 && !list->IsEmpty())
+        list->SetFirstItem(std::min(top, static_cast<int>(list->GetCount()) - 1));
 }
 
 /// The entries of the list without those at `indices`.
@@ -98,7 +94,27 @@ wxArrayString ItemsAt(wxListBox const* list, std::vector<int> const& indices)
 
 void DeselectAll(wxListBox* list) { list->SetSelection(wxNOT_FOUND); }
 
-void ShowItems(wxListBox* list, wxArrayString const& names) { Refill(list, names, list->GetTopItem()); }
+void SelectItems(wxListBox* list, std::vector<int> const& indices)
+{
+    DeselectAll(list);
+    if (indices.empty())
+        return;
+    // A list of many looks through all its entries at each call, to note what is selected now. Until
+    // the last call it is told that it is none.
+    long const style = list->GetWindowStyleFlag();
+    list->SetWindowStyleFlag(style & ~wxLB_EXTENDED);
+    for (int const index : indices)
+        list->SetSelection(index);
+    list->SetWindowStyleFlag(style);
+    list->SetSelection(indices.back());
+}
+
+void ShowItems(wxListBox* list, wxArrayString const& names)
+{
+    int const top = list->GetTopItem();
+    Refill(list, names);
+    ScrollTo(list, top);
+}
 
 void AppendItems(wxListBox* list, wxArrayString const& names)
 {
@@ -108,18 +124,22 @@ void AppendItems(wxListBox* list, wxArrayString const& names)
 
 void DeleteItems(wxListBox* list, std::vector<int> const& indices)
 {
+    if (indices.empty())
+        return;
     auto const selected = IndicesAfter(SelectionsOf(list), indices);
+    int const top = list->GetTopItem();
+    auto const above = std::lower_bound(indices.begin(), indices.end(), top) - indices.begin();
     if (indices.size() <= FEW)
         for (auto index = indices.rbegin(); index != indices.rend(); ++index)
             list->Delete(static_cast<unsigned>(*index));
     else
-    {
-        int const top = list->GetTopItem();
-        auto const above = std::lower_bound(indices.begin(), indices.end(), top) - indices.begin();
-        Refill(list, ItemsWithout(list, indices), top - static_cast<int>(above));
-    }
+        Refill(list, ItemsWithout(list, indices));
     // When the row on which the user clicked last goes, the toolkit selects its neighbour and drops
-    // all others, without an event.
-    Select(list, selected);
+    // all others, without an event. A list of one must be told in any case that nothing is selected,
+    // or it takes a click on the next row for no news.
+    if (selected.empty() || SelectionsOf(list) != selected)
+        SelectItems(list, selected);
+    // Both a selection and a new filling scroll.
+    ScrollTo(list, top - static_cast<int>(above));
 }
 } // namespace zenqo

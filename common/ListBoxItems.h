@@ -26,6 +26,9 @@ wxArrayString ItemsAt(wxListBox const* list, std::vector<int> const& indices);
 /// Deselects every entry. Raises no event.
 void DeselectAll(wxListBox* list);
 
+/// Selects exactly the entries at `indices`, which may be many. Raises no event.
+void SelectItems(wxListBox* list, std::vector<int> const& indices);
+
 /// Puts `names` in the place of all entries. Nothing is selected afterwards; what was at the top of
 /// the window stays there as far as possible.
 void ShowItems(wxListBox* list, wxArrayString const& names);
@@ -34,6 +37,6 @@ void ShowItems(wxListBox* list, wxArrayString const& names);
 void AppendItems(wxListBox* list, wxArrayString const& names);
 
 /// Removes the entries at `indices`, which ascend. Of the others those stay selected that were, and
-/// none becomes so.
+/// none becomes so; what was at the top of the window stays there as far as possible.
 void DeleteItems(wxListBox* list, std::vector<int> const& indices);
 } // namespace zenqo

@@ -1,5 +1,7 @@
 #include "common/Records.h"
 
+#include <algorithm>
+
 #include "common/Text.h"
 #include "engine/Sentinels.h"
 
@@ -12,7 +14,11 @@ bool HasVariables(Dataset const& dataset)
 
 wxArrayString VariableNames(DatasetMap const& datasets, std::string const& name)
 {
-    auto const found = datasets.find(name);
+    auto found = datasets.find(name);
+    // A key whose bytes are no text reads as an empty name in the pickers, and is found by that.
+    if (found == datasets.end())
+        found = std::find_if(datasets.begin(), datasets.end(), [wide = ToWide(name)](auto const& entry)
+                             { return ToWide(entry.first) == wide; });
     return found == datasets.end() ? wxArrayString() : found->second->varNames;
 }
 

@@ -50,7 +50,8 @@ Role AddRole(wxFlexGridSizer* grid, wxPanel* panel, RoleSpec const& spec, wxList
 {
     AddGap(grid);
     AddCaption(grid, panel, spec.caption);
-    // The button is made first: the keyboard goes from control to control in this order.
+    // The button is made first: the keyboard goes from control to control in this order, but for what
+    // RoleLists changes.
     auto* const button = MakeTransferButton(panel, left);
     bool const one = spec.kind == RoleKind::SINGLE;
     auto* const list = MakeList(panel, wxSize(LIST_WIDTH, one ? OneRow(left) : listHeight),

@@ -51,6 +51,12 @@ NameBag HeldByAllShared(std::vector<Role> const& roles, wxListBox const* except 
 RoleLists::RoleLists(wxListBox* left, std::vector<Role> roles, std::size_t hidden, Source source)
     : m_left(left), m_roles(std::move(roles)), m_hidden(hidden), m_source(std::move(source))
 {
+    // With the keyboard one comes from the left list to all buttons before any role list: GTK selects
+    // the entry of a list of one that gets the focus, and the selection at the left would be gone
+    // before the next button is reached.
+    for (Role const& role : m_roles)
+        if (role.button != m_roles.front().button)
+            role.button->MoveBeforeInTabOrder(m_roles.front().list);
     if (m_source)
         Restart();
 }
@@ -207,6 +213,9 @@ void RoleLists::Restart()
     for (Role const& role : m_roles)
         role.list->Clear();
     Redraw(m_source());
+    // Other names are looked at from their beginning.
+    if (!m_left->IsEmpty())
+        m_left->SetFirstItem(0);
 }
 
 void RoleLists::Restore(std::size_t role, wxArrayString const& names)

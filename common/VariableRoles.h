@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <wx/button.h>
 #include <wx/listbox.h>
@@ -51,5 +52,41 @@ void BindRole(Role const& role, Panel* panel, void (Panel::*onSelected)(wxComman
 {
     role.list->Bind(wxEVT_LISTBOX, onSelected, panel);
     role.button->Bind(wxEVT_BUTTON, onPressed, panel);
+}
+
+/// What a variable picker does when the user touches its controls.
+template <class Panel>
+struct VariableHandlers
+{
+    using Handler = void (Panel::*)(wxCommandEvent&);
+
+    /// A role's list and the button beside it.
+    struct OfRole
+    {
+        Handler onSelected;
+        Handler onPressed;
+    };
+
+    Handler onLeftSelected;
+    std::vector<OfRole> roles; ///< From top to bottom.
+    Handler onDatasetChanged;
+};
+
+/// Makes all of a variable picker below its dataset row: lists and buttons, the layout, the variables
+/// of the first dataset, the events.
+template <class Panel, class Picker>
+std::unique_ptr<RoleLists> BuildVariablePicker(Panel* panel, Picker* picker, DatasetMap const* datasets,
+                                               RoleGridSpec const& spec,
+                                               VariableHandlers<Panel> const& handlers)
+{
+    RoleGrid const grid = BuildRoleGrid(panel, spec);
+    LayOutUnderPicker(panel, picker, grid.sizer, 0, wxALL);
+    auto roles = OfferVariables(picker, datasets, grid.left, grid.roles);
+
+    grid.left->Bind(wxEVT_LISTBOX, handlers.onLeftSelected, panel);
+    for (std::size_t i = 0; i < grid.roles.size(); ++i)
+        BindRole(grid.roles[i], panel, handlers.roles[i].onSelected, handlers.roles[i].onPressed);
+    picker->Bind(wxEVT_CHOICE, handlers.onDatasetChanged, panel);
+    return roles;
 }
 } // namespace zenqo

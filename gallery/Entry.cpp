@@ -10,8 +10,8 @@
 std::vector<Entry> AllEntries()
 {
     std::vector<Entry> all;
-    for (auto&& entries : {ConsoleEntries(), PickerEntries(), ModelSpecEntries(), EquationEntries(),
-                           DataDialogEntries(), PaneEntries()})
+    for (auto&& entries : {ConsoleEntries(), PickerEntries(), ModelSpecEntries(), VariablePickerEntries(),
+                           EquationEntries(), DataDialogEntries(), PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());
     return all;
 }

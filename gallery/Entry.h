@@ -29,6 +29,7 @@ std::vector<Entry> AllEntries();
 std::vector<Entry> ConsoleEntries();
 std::vector<Entry> PickerEntries();
 std::vector<Entry> ModelSpecEntries();
+std::vector<Entry> VariablePickerEntries();
 std::vector<Entry> EquationEntries();
 std::vector<Entry> DataDialogEntries();
 std::vector<Entry> PaneEntries();

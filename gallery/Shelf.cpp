@@ -27,6 +27,13 @@ Shelf::Shelf(std::string const& samples)
     models["linear_employment"] = model;
     models["linear_employment_short"] = std::make_shared<Model>(*model);
     models["probit_transmission"] = std::make_shared<Model>();
+
+    auto survey = std::make_shared<Dataset>();
+    for (auto const* const name : {"constant", "choice", "cost_1", "cost_2", "cost_3", "time_1", "time_2",
+                                   "time_3", "income", "age", "party_size"})
+        survey->varNames.Add(name);
+    survey->data = Eigen::MatrixXd::Ones(1, static_cast<Eigen::Index>(survey->varNames.size()));
+    surveys["travellers"] = survey;
 }
 
 Posterior Regress(Dataset const& dataset, std::string const& dependent)

@@ -14,6 +14,9 @@ struct Shelf
     DatasetMap datasets;
     MatrixMap matrices;
     ModelMap models;
+
+    /// A survey of travellers, with a numbered variable for each of three ways to travel.
+    DatasetMap surveys;
 };
 
 /// The posterior of a linear model under a flat prior.

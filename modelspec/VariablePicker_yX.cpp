@@ -16,19 +16,16 @@ VariablePicker_yX::VariablePicker_yX(wxWindow* parent, DatasetMap* datasets, int
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0),
       m_datasetPicker(new DatasetPicker(this))
 {
-    auto const grid = zenqo::BuildRoleGrid(this, {"Variables in Dataset",
-                                                  {{"Dependent Variable", zenqo::RoleKind::SINGLE},
-                                                   {"Independent Variables", zenqo::RoleKind::LIST}},
-                                                  listHeight, 3, 2});
-    zenqo::LayOutUnderPicker(this, m_datasetPicker, grid.sizer, 0, wxALL);
-    m_roles = zenqo::OfferVariables(m_datasetPicker, datasets, grid.left, grid.roles);
-
-    grid.left->Bind(wxEVT_LISTBOX, &VariablePicker_yX::OnAllVarSelected, this);
-    zenqo::BindRole(grid.roles[DEP], this, &VariablePicker_yX::OnDepVarSelected,
-                    &VariablePicker_yX::OnUpperButton);
-    zenqo::BindRole(grid.roles[IND], this, &VariablePicker_yX::OnIndVarSelected,
-                    &VariablePicker_yX::OnLowerButton);
-    m_datasetPicker->Bind(wxEVT_CHOICE, &VariablePicker_yX::OnDatasetChanged, this);
+    zenqo::RoleGridSpec const grid{"Variables in Dataset",
+                                   {{"Dependent Variable", zenqo::RoleKind::SINGLE},
+                                    {"Independent Variables", zenqo::RoleKind::LIST}},
+                                   listHeight, 3, 2};
+    m_roles = zenqo::BuildVariablePicker<VariablePicker_yX>(
+        this, m_datasetPicker, datasets, grid,
+        {&VariablePicker_yX::OnAllVarSelected,
+         {{&VariablePicker_yX::OnDepVarSelected, &VariablePicker_yX::OnUpperButton},
+          {&VariablePicker_yX::OnIndVarSelected, &VariablePicker_yX::OnLowerButton}},
+         &VariablePicker_yX::OnDatasetChanged});
 }
 
 VariablePicker_yX::~VariablePicker_yX() = default;

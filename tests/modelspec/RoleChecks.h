@@ -76,6 +76,7 @@ struct Handlers
     std::vector<Handler> roles;
     std::vector<Handler> buttons;
     Handler source = nullptr; ///< A change of the dataset or model, if the picker has such a row.
+    std::function<void(Picker&)> redraw{}; ///< The left list made anew, if a host can ask for it.
 };
 
 /// Drives a picker through its handlers, as the controls would.
@@ -115,6 +116,12 @@ public:
         Call(m_handlers.source);
     }
 
+    void Redraw()
+    {
+        if (m_handlers.redraw)
+            m_handlers.redraw(*picker);
+    }
+
     Picker* picker;
     Controls controls;
 
@@ -142,7 +149,8 @@ inline std::vector<int> SomeOf(unsigned count, std::mt19937& random)
 }
 
 /// Makes 10,000 random steps of a user with the lists, the buttons and the choice row, and of a
-/// program with the changed flag. `check` is called after each and holds what must always be true.
+/// program with the changed flag and the left list. `check` is called after each and holds what must
+/// always be true.
 template <class Picker>
 void RandomWalk(Driver<Picker>& driver, std::function<void()> const& check, unsigned seed = 20261121)
 {
@@ -162,6 +170,9 @@ void RandomWalk(Driver<Picker>& driver, std::function<void()> const& check, unsi
         case 1:
             changed = false;
             driver.picker->SetChanged(changed);
+            break;
+        case 2:
+            driver.Redraw();
             break;
         default:
             if (kind < 7)

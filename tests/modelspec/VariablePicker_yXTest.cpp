@@ -1,64 +1,76 @@
 #include "modelspec/VariablePicker_yX.h"
 
-#include "modelspec/RoleChecks.h"
+#include "modelspec/VariablePickerChecks.h"
 
-using namespace role_checks;
+using namespace variable_picker_checks;
 
 namespace
 {
+using Picker = VariablePicker_yX;
+
 enum
 {
     DEP,
     IND
 };
 
-Driver<VariablePicker_yX> Drive(VariablePicker_yX* picker)
-{
-    return {picker,
-            {&VariablePicker_yX::OnAllVarSelected,
-             {&VariablePicker_yX::OnDepVarSelected, &VariablePicker_yX::OnIndVarSelected},
-             {&VariablePicker_yX::OnUpperButton, &VariablePicker_yX::OnLowerButton},
-             &VariablePicker_yX::OnDatasetChanged}};
-}
+Member<Picker> const MEMBER{
+    "VariablePicker_yX",
+    [](wxWindow* parent, DatasetMap* datasets) { return new Picker(parent, datasets, LIST_HEIGHT); },
+    {&Picker::OnAllVarSelected,
+     {&Picker::OnDepVarSelected, &Picker::OnIndVarSelected},
+     {&Picker::OnUpperButton, &Picker::OnLowerButton},
+     &Picker::OnDatasetChanged},
+    "Variables in Dataset",
+    2,
+    {{"Dependent Variable", true, "cpi", "cpi", OneDependent<Picker>},
+     {"Independent Variables", false, "m2", "m2", std::mem_fn(&Picker::GetIndVar)}},
+    Names({"gdp", "rate_1", "rate_2", "fx"})};
 } // namespace
 
-TEST_CASE("variable picker yX: real clicks move variables, and what stays selected stays selected")
+TEST_CASE("variable picker yX: does what the whole family does")
 {
-    Stage stage;
-    auto datasets = TwoDatasets();
-    auto* const picker = new VariablePicker_yX(stage.Frame(), &datasets, 200);
-    stage.Fill(picker);
-    Controls const controls(picker);
+    Family(MEMBER);
+}
 
-    ClickEntry(controls.Left(), 1);
-    ClickEntry(controls.Left(), 3, WXK_SHIFT);
-    CHECK(Selected(controls.Left()) == std::vector<int>{1, 2, 3});
-    Click(controls.Button(DEP));
-    CHECK(picker->GetDepVar() == "cpi");
-    CHECK(controls.Left()->GetStrings() == Names({"gdp", "rate", "m2", "fx"}));
-    CHECK(Selected(controls.Left()) == std::vector<int>{1, 2});
+TEST_CASE("variable picker yX: the upper list takes one variable and refuses the next")
+{
+    RealClicksIntoSingle(MEMBER);
+}
 
-    Click(controls.Button(IND));
-    CHECK(picker->GetIndVar() == Names({"rate", "m2"}));
-    CHECK(controls.Left()->GetStrings() == Names({"gdp", "fx"}));
-    CHECK(Selected(controls.Left()).empty());
-    Keep(Photograph(stage.Frame()), "VariablePicker_yX");
+TEST_CASE("variable picker yX: the lower list takes all that is selected and gives some back")
+{
+    RealClicksInList(MEMBER, IND);
+}
+
+TEST_CASE("variable picker yX: variables come back to their own places")
+{
+    Set<Picker> set(MEMBER);
+    set.driver.MoveIn(IND, {4});
+    set.driver.MoveIn(IND, {1});
+    set.driver.MoveIn(IND, {2, 3});
+    CHECK(set.picker->GetIndVar() == Names({"rate_2", "cpi", "m2", "fx"}));
+    CHECK(set.Free() == Names({"gdp", "rate_1"}));
+    set.driver.MoveOut(IND, {1, 2});
+    CHECK(set.picker->GetIndVar() == Names({"rate_2", "fx"}));
+    CHECK(set.Free() == Names({"gdp", "cpi", "rate_1", "m2"}));
+
+    set.driver.MoveIn(DEP, {0, 1, 2});
+    CHECK(set.picker->GetDepVar() == "gdp");
+    CHECK(Selected(set.Left()) == std::vector<int>{0, 1});
+    set.driver.Press(DEP);
+    CHECK(set.picker->GetDepVar() == "gdp");
+    CHECK(set.Free() == Names({"cpi", "rate_1", "m2"}));
+    set.driver.Press(IND);
+    CHECK(set.picker->GetIndVar() == Names({"rate_2", "fx", "cpi", "rate_1"}));
 }
 
 TEST_CASE("variable picker yX: a random walk loses nothing and invents nothing")
 {
-    Stage stage;
-    auto datasets = TwoDatasets();
-    auto* const picker = new VariablePicker_yX(stage.Frame(), &datasets, 200);
-    auto driver = Drive(picker);
-    RandomWalk(driver,
-               [&]
-               {
-                   auto const all = ShownNames(*datasets.at(picker->GetDatasetName()));
-                   auto held = Bag(driver.controls.Left()->GetStrings());
-                   held.merge(Bag(driver.controls.Role(DEP)->GetStrings()));
-                   held.merge(Bag(driver.controls.Role(IND)->GetStrings()));
-                   REQUIRE(held == Bag(all));
-                   REQUIRE(InOrderOf(driver.controls.Left()->GetStrings(), all));
-               });
+    Walk<Picker>(MEMBER, Datasets(), EachInOnePlace<Picker>);
+}
+
+TEST_CASE("variable picker yX: a random walk among hostile names")
+{
+    Walk<Picker>(MEMBER, HostileDatasets(), EachInOnePlace<Picker>);
 }

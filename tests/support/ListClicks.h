@@ -21,6 +21,7 @@ inline wxPoint RowOf(wxListBox const* list, int index)
 }
 
 /// Clicks on entry `index` as a user does, with `key` (WXK_SHIFT, WXK_CONTROL) held down unless it is 0.
+/// GTK takes a click with a key into a list without the focus for a wish to give it the focus, no more.
 inline void ClickEntry(wxListBox* list, int index, int key = 0)
 {
     wxUIActionSimulator simulator;
@@ -30,6 +31,27 @@ inline void ClickEntry(wxListBox* list, int index, int key = 0)
     if (key != 0)
         simulator.KeyUp(key);
     Pump(30);
+}
+
+/// Clicks on an entry that was clicked just before, far enough from there for no double click.
+inline void ClickEntryAgain(wxListBox* list, int index)
+{
+    ClickAt(list, RowOf(list, index) + wxPoint(60, 0));
+    Pump(30);
+}
+
+/// The entry at the top once the list has come to rest; it scrolls little by little.
+inline int TopAtRest(wxListBox const* list)
+{
+    int top = wxNOT_FOUND;
+    for (int unchanged = 0; unchanged < 3; ++unchanged)
+    {
+        Pump(100);
+        if (list->GetTopItem() != top)
+            unchanged = 0;
+        top = list->GetTopItem();
+    }
+    return top;
 }
 
 /// The indices of the selected entries.
