@@ -412,10 +412,20 @@ TEST_CASE("equations notebook: the keyboard alone chooses the variables of an eq
     CHECK(controls.Button(DEP)->HasFocus());
     Press(WXK_SPACE);
     CHECK(notebook->GetDepVars() == Names({"b"}));
+
+    // Past the filled list, whose entry GTK selects when it gets the focus, to the other button.
+    Press(WXK_TAB, wxMOD_SHIFT);
+    CHECK(controls.Left()->HasFocus());
+    Press(WXK_DOWN);
+    CHECK(Selected(controls.Left()).size() == 1);
     Press(WXK_TAB);
-    CHECK(controls.Role(DEP)->HasFocus());
     Press(WXK_TAB);
     CHECK(controls.Button(IND)->HasFocus());
+    Press(WXK_SPACE);
+    CHECK(notebook->GetIndVars()[0].size() == 1);
+    CHECK(!notebook->GetIndVars()[0][0].empty());
+    Press(WXK_TAB);
+    CHECK(controls.Role(DEP)->HasFocus());
     Press(WXK_TAB);
     CHECK(controls.Role(IND)->HasFocus());
 }
