@@ -5,24 +5,12 @@
 #include <set>
 
 #include "workbench/engine/Error.h"
+#include "workbench/engine/Variables.h"
 
 namespace workbench
 {
 namespace
 {
-Eigen::Index ColumnOf(Dataset const& dataset, std::string const& name)
-{
-    for (std::size_t i = 1; i < dataset.varNames.size(); ++i)
-    {
-        if (dataset.varNames[i].ToStdString(wxConvLibc) != name)
-            continue;
-        if (dataset.labelledColumns.count(static_cast<int>(i)) != 0)
-            throw Error("the variable \"" + name + "\" holds text");
-        return static_cast<Eigen::Index>(i);
-    }
-    throw Error("the dataset has no variable \"" + name + "\"");
-}
-
 /// The values of a variable k observations earlier, missing where there is no such observation.
 Eigen::VectorXd Lagged(Eigen::VectorXd const& values, int lag)
 {
@@ -65,10 +53,10 @@ DesignMatrix MakeDesignMatrix(Dataset const& dataset, std::string const& depende
         design.columns.push_back(name);
     };
 
-    Eigen::VectorXd const explained = dataset.data.col(ColumnOf(dataset, dependent));
+    Eigen::VectorXd const explained = dataset.data.col(NumberColumnOf(dataset, dependent));
     add(dependent, explained);
     for (std::string const& name : independent)
-        add(name, dataset.data.col(ColumnOf(dataset, name)));
+        add(name, dataset.data.col(NumberColumnOf(dataset, name)));
     for (int const lag : lags)
     {
         if (lag == 0)

@@ -8,6 +8,7 @@
 #include "workbench/engine/DelimitedText.h"
 #include "workbench/engine/DesignMatrix.h"
 #include "workbench/engine/WorkspaceFile.h"
+#include "workbench/script/DataCommands.h"
 #include "workbench/script/Nearest.h"
 #include "workbench/script/Output.h"
 #include "workbench/script/Print.h"
@@ -19,13 +20,6 @@ namespace
 // ----------------------------------------------------------------------------------- the commands
 
 constexpr int MOST_LAGS = 1000000;
-
-/// The pieces of a text between its blanks.
-std::vector<std::string> Words(std::string const& text)
-{
-    std::istringstream stream(text);
-    return {std::istream_iterator<std::string>(stream), {}};
-}
 
 Outcome RunClear(Context const&, Arguments const& arguments)
 {
@@ -56,7 +50,7 @@ std::vector<int> LagsOf(Arguments const& arguments, std::size_t index)
 Outcome RunDesign(Context const& context, Arguments const& arguments)
 {
     auto const design = MakeDesignMatrix(*arguments.DatasetAt(0), arguments.Text(1),
-                                         Words(arguments.Text(2)), LagsOf(arguments, 3));
+                                         arguments.Names(2), LagsOf(arguments, 3));
     std::string text = "\n" + std::to_string(design.values.rows()) + " observations, "
                        + std::to_string(design.omitted) + " left out; columns:";
     for (auto const& column : design.columns)
@@ -204,6 +198,11 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Takes an object out of the workspace.",
          RunClear},
+        {"create",
+         {{"dataset", Kind::DatasetName}, {"name", Kind::String}, {"expression", Kind::String}},
+         Naming::Never,
+         "Makes or replaces a variable of a dataset.",
+         RunCreate},
         {"design",
          {{"name", Kind::DatasetName},
           {"dependent", Kind::String},
@@ -316,6 +315,12 @@ std::shared_ptr<Dataset> Arguments::DatasetAt(std::size_t index) const
         return *dataset;
     throw ScriptError("expected the name of a dataset, but \"" + m_arguments[index].text + "\" is none",
                       m_arguments[index].position);
+}
+
+std::vector<std::string> Arguments::Names(std::size_t index) const
+{
+    std::istringstream stream(Text(index));
+    return {std::istream_iterator<std::string>(stream), {}};
 }
 
 Eigen::MatrixXd Arguments::MatrixAt(std::size_t index) const

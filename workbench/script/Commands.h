@@ -53,6 +53,10 @@ public:
     std::string const& Text(std::size_t index) const { return m_arguments[index].text; }
     Position PositionOf(std::size_t index) const { return m_arguments[index].position; }
     char Delimiter(std::size_t index) const;
+
+    /// The names that stand in a string, with blanks between them.
+    std::vector<std::string> Names(std::size_t index) const;
+
     double Number(std::size_t index) const { return m_arguments[index].matrix(0, 0); }
     Object AnyObject(std::size_t index) const;
     std::shared_ptr<Dataset> DatasetAt(std::size_t index) const;

@@ -1,0 +1,95 @@
+#include "workbench/engine/Variables.h"
+
+#include <algorithm>
+
+#include "engine/Functions.h"
+#include "workbench/engine/Error.h"
+#include "workbench/engine/InputFile.h"
+#include "workbench/engine/Progress.h"
+
+namespace workbench
+{
+std::string VariableName(Dataset const& dataset, Eigen::Index column)
+{
+    return dataset.varNames[static_cast<std::size_t>(column)].utf8_string();
+}
+
+bool HoldsText(Dataset const& dataset, Eigen::Index column)
+{
+    return dataset.labelledColumns.count(static_cast<int>(column)) != 0;
+}
+
+Eigen::Index FindVariable(Dataset const& dataset, std::string const& name)
+{
+    auto const columns =
+        std::min<Eigen::Index>(dataset.data.cols(), static_cast<Eigen::Index>(dataset.varNames.size()));
+    for (Eigen::Index column = 1; column < columns; ++column)
+        if (VariableName(dataset, column) == name)
+            return column;
+    return 0;
+}
+
+Eigen::Index ColumnOf(Dataset const& dataset, std::string const& name)
+{
+    auto const column = FindVariable(dataset, name);
+    if (column == 0)
+        throw Error("the dataset has no variable " + Quoted(name));
+    return column;
+}
+
+Eigen::Index NumberColumnOf(Dataset const& dataset, std::string const& name)
+{
+    auto const column = ColumnOf(dataset, name);
+    if (HoldsText(dataset, column))
+        throw Error("the variable " + Quoted(name) + " holds text");
+    return column;
+}
+
+std::vector<Eigen::Index> ColumnsOf(Dataset const& dataset, std::vector<std::string> const& names)
+{
+    if (names.empty())
+        throw Error("no variable is named");
+    std::vector<Eigen::Index> columns;
+    for (auto const& name : names)
+    {
+        auto const column = ColumnOf(dataset, name);
+        if (std::find(columns.begin(), columns.end(), column) != columns.end())
+            throw Error(Quoted(name) + " is given twice");
+        columns.push_back(column);
+    }
+    return columns;
+}
+
+std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
+                                      Eigen::VectorXd const& values, Progress& progress)
+{
+    if (!CheckID(name))
+        throw Error(Quoted(name)
+                    + " cannot be the name of a variable: it may have letters, digits and underscores, "
+                      "and does not begin with a digit");
+    if (!dataset.varNames.empty() && VariableName(dataset, 0) == name)
+        throw Error("the name " + Quoted(name) + " is kept for the program's own use");
+
+    ProgressScope scope(progress, "Copying the dataset");
+    auto const found = FindVariable(dataset, name);
+    auto const old = dataset.data.cols();
+    auto const target = found == 0 ? old : found;
+    auto const made = std::make_shared<Dataset>();
+    made->name = dataset.name;
+    made->varNames = dataset.varNames;
+    made->labelledColumns = dataset.labelledColumns;
+    made->labelledColumns.erase(static_cast<int>(target));
+    if (found == 0)
+        made->varNames.Add(wxString::FromUTF8(name));
+    made->data.resize(dataset.data.rows(), std::max(old, target + 1));
+    for (Eigen::Index column = 0; column < made->data.cols(); ++column)
+    {
+        if (column == target)
+            made->data.col(column) = values;
+        else
+            made->data.col(column) = dataset.data.col(column);
+        scope.Update(static_cast<std::uint64_t>(column + 1), static_cast<std::uint64_t>(made->data.cols()));
+    }
+    return made;
+}
+} // namespace workbench

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <Eigen/Core>
+
+#include "engine/Dataset.h"
+
+namespace workbench
+{
+class Progress;
+
+/// The name of the variable in column `column`, in UTF-8.
+std::string VariableName(Dataset const& dataset, Eigen::Index column);
+
+bool HoldsText(Dataset const& dataset, Eigen::Index column);
+
+/// The column of the variable called `name`; 0, which is the hidden first column's, if there is none.
+Eigen::Index FindVariable(Dataset const& dataset, std::string const& name);
+
+/// The same. Throws an Error if there is none.
+Eigen::Index ColumnOf(Dataset const& dataset, std::string const& name);
+
+/// The same. Throws an Error if there is none, or it holds text.
+Eigen::Index NumberColumnOf(Dataset const& dataset, std::string const& name);
+
+/// The columns of the variables called `names`, in that order. Throws an Error if there is no name,
+/// one that is no variable's, or one twice.
+std::vector<Eigen::Index> ColumnsOf(Dataset const& dataset, std::vector<std::string> const& names);
+
+/// A copy of `dataset` in which the variable called `name` has `values`, one for each observation.
+/// A variable of that name, which may hold text, is replaced in its place; a new one comes last.
+/// Throws an Error if `name` is not legal in the script language, or is the hidden column's.
+std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
+                                      Eigen::VectorXd const& values, Progress& progress);
+} // namespace workbench

@@ -1,0 +1,59 @@
+#include "workbench/script/DataCommands.h"
+
+#include <string_view>
+
+#include "workbench/engine/Expression.h"
+#include "workbench/engine/Utf8.h"
+#include "workbench/engine/Variables.h"
+#include "workbench/script/Output.h"
+
+namespace workbench
+{
+namespace
+{
+std::string Count(Eigen::Index count, char const* one, char const* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+/// The place in the script of a byte of a string: the string stands on one line, behind its quote.
+Position PlaceIn(Arguments const& arguments, std::size_t index, std::size_t offset)
+{
+    auto place = arguments.PositionOf(index);
+    auto const before = std::string_view(arguments.Text(index)).substr(0, offset);
+    place.column += 1 + static_cast<int>(CountCharacters(before));
+    return place;
+}
+} // namespace
+
+Outcome RunCreate(Context const& context, Arguments const& arguments)
+{
+    auto const& owner = arguments.Text(0);
+    auto const& name = arguments.Text(1);
+    auto const dataset = arguments.DatasetAt(0);
+    Computed computed;
+    try
+    {
+        computed = Compute(arguments.Text(2), owner, context.workspace.datasets, context.progress);
+    }
+    catch (ExpressionError const& error)
+    {
+        throw ScriptError(error.what(), PlaceIn(arguments, 2, error.offset));
+    }
+    Outcome outcome;
+    outcome.assigned.emplace_back(owner, WithVariable(*dataset, name, computed.values, context.progress));
+
+    std::string text = "\n" + owner + "." + name + ": "
+                       + Count(dataset->data.rows(), "observation", "observations") + ", "
+                       + std::to_string(computed.missing) + " missing";
+    if (computed.infinite > 0)
+        text += ", " + std::to_string(computed.infinite) + " infinite";
+    context.output.Text(text + "\n");
+    if (computed.undefined > 0)
+        context.output.Warning("The expression has no value in "
+                               + Count(computed.undefined, "observation", "observations")
+                               + " in which its variables have one: an operation is not defined there, as "
+                                 "0/0 or the logarithm of a negative number.");
+    return outcome;
+}
+} // namespace workbench
