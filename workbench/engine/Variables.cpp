@@ -92,4 +92,31 @@ std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const&
     }
     return made;
 }
+
+std::shared_ptr<Dataset> WithoutVariables(Dataset const& dataset, std::vector<std::string> const& names,
+                                          Progress& progress)
+{
+    auto dropped = ColumnsOf(dataset, names);
+    auto const left = dataset.data.cols() - static_cast<Eigen::Index>(dropped.size());
+    if (left < 2)
+        throw Error("a dataset keeps at least one variable");
+    std::sort(dropped.begin(), dropped.end());
+
+    ProgressScope scope(progress, "Copying the dataset");
+    auto const made = std::make_shared<Dataset>();
+    made->name = dataset.name;
+    made->data.resize(dataset.data.rows(), left);
+    for (Eigen::Index from = 0, to = 0; from < dataset.data.cols(); ++from)
+    {
+        if (std::binary_search(dropped.begin(), dropped.end(), from))
+            continue;
+        made->varNames.Add(dataset.varNames[static_cast<std::size_t>(from)]);
+        made->data.col(to) = dataset.data.col(from);
+        auto const labelled = dataset.labelledColumns.find(static_cast<int>(from));
+        if (labelled != dataset.labelledColumns.end())
+            made->labelledColumns[static_cast<int>(to)] = labelled->second;
+        scope.Update(static_cast<std::uint64_t>(++to), static_cast<std::uint64_t>(left));
+    }
+    return made;
+}
 } // namespace workbench

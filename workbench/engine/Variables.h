@@ -35,4 +35,9 @@ std::vector<Eigen::Index> ColumnsOf(Dataset const& dataset, std::vector<std::str
 /// Throws an Error if `name` is not legal in the script language, or is the hidden column's.
 std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
                                       Eigen::VectorXd const& values, Progress& progress);
+
+/// A copy of `dataset` without the variables called `names`; what holds text still does.
+/// Throws an Error as ColumnsOf does, or if no variable would be left.
+std::shared_ptr<Dataset> WithoutVariables(Dataset const& dataset, std::vector<std::string> const& names,
+                                          Progress& progress);
 } // namespace workbench

@@ -211,6 +211,11 @@ std::vector<Command> const& Commands()
          Naming::Always,
          "Makes the matrix of a dependent variable, independent ones and lags of the dependent one.",
          RunDesign},
+        {"drop",
+         {{"dataset", Kind::DatasetName}, {"variables", Kind::String}},
+         Naming::Never,
+         "Takes variables out of a dataset.",
+         RunDrop},
         {"export",
          {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}},
          Naming::Never,
@@ -237,6 +242,11 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Writes the whole workspace to a workspace file.",
          RunSave},
+        {"sort",
+         {{"dataset", Kind::DatasetName}, {"variables", Kind::String}},
+         Naming::Never,
+         "Puts the observations of a dataset in the order of variables.",
+         RunSort},
     };
     return commands;
 }

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "workbench/engine/Expression.h"
+#include "workbench/engine/Sort.h"
 #include "workbench/engine/Utf8.h"
 #include "workbench/engine/Variables.h"
 #include "workbench/script/Output.h"
@@ -54,6 +55,24 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
                                + Count(computed.undefined, "observation", "observations")
                                + " in which its variables have one: an operation is not defined there, as "
                                  "0/0 or the logarithm of a negative number.");
+    return outcome;
+}
+
+Outcome RunDrop(Context const& context, Arguments const& arguments)
+{
+    Outcome outcome;
+    outcome.assigned.emplace_back(
+        arguments.Text(0),
+        WithoutVariables(*arguments.DatasetAt(0), arguments.Names(1), context.progress));
+    return outcome;
+}
+
+Outcome RunSort(Context const& context, Arguments const& arguments)
+{
+    auto const dataset = arguments.DatasetAt(0);
+    auto const keys = ColumnsOf(*dataset, arguments.Names(1));
+    Outcome outcome;
+    outcome.assigned.emplace_back(arguments.Text(0), Sorted(*dataset, keys, context.progress));
     return outcome;
 }
 } // namespace workbench

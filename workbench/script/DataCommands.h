@@ -8,5 +8,7 @@ namespace workbench
 /// docs/script-language.md.
 ///@{
 Outcome RunCreate(Context const& context, Arguments const& arguments);
+Outcome RunDrop(Context const& context, Arguments const& arguments);
+Outcome RunSort(Context const& context, Arguments const& arguments);
 ///@}
 } // namespace workbench
