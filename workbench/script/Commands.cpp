@@ -247,6 +247,11 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Puts the observations of a dataset in the order of variables.",
          RunSort},
+        {"summarize",
+         {{"dataset", Kind::DatasetName}, {"variables", Kind::String}, {"rows", Kind::String, true}},
+         Naming::Never,
+         "Prints mean, standard deviation, quartiles and limits of variables.",
+         RunSummarize},
     };
     return commands;
 }

@@ -3,10 +3,13 @@
 #include <string_view>
 
 #include "workbench/engine/Expression.h"
+#include "workbench/engine/InputFile.h"
 #include "workbench/engine/Sort.h"
+#include "workbench/engine/Summary.h"
 #include "workbench/engine/Utf8.h"
 #include "workbench/engine/Variables.h"
 #include "workbench/script/Output.h"
+#include "workbench/script/Table.h"
 
 namespace workbench
 {
@@ -74,5 +77,38 @@ Outcome RunSort(Context const& context, Arguments const& arguments)
     Outcome outcome;
     outcome.assigned.emplace_back(arguments.Text(0), Sorted(*dataset, keys, context.progress));
     return outcome;
+}
+
+Outcome RunSummarize(Context const& context, Arguments const& arguments)
+{
+    auto const rows = arguments.Count() < 3 ? "available" : arguments.Text(2);
+    if (rows != "available" && rows != "complete")
+        throw ScriptError("expected \"available\" or \"complete\" as the rows, but found " + Quoted(rows),
+                          arguments.PositionOf(2));
+    auto const dataset = arguments.DatasetAt(0);
+    auto const names = arguments.Names(1);
+    auto const columns = ColumnsOf(*dataset, names);
+    for (auto const& name : names)
+        NumberColumnOf(*dataset, name);
+    auto const summaries =
+        Summarize(*dataset, columns, rows == "complete" ? SummaryRows::Complete : SummaryRows::Available,
+                  context.progress);
+
+    std::vector<TableColumn> titles{{"variable", true}};
+    for (auto const* const title : {"obs", "mean", "st.dev.", "min", "q1", "median", "q3", "max"})
+        titles.push_back({title, false});
+    std::vector<std::vector<std::string>> cells;
+    for (std::size_t i = 0; i < names.size(); ++i)
+    {
+        auto const& s = summaries[i];
+        cells.push_back({names[i], std::to_string(s.observations)});
+        for (double const value : {s.mean, s.deviation, s.minimum, s.lowerQuartile, s.median,
+                                   s.upperQuartile, s.maximum})
+            cells.back().push_back(NumberCell(value));
+    }
+    context.output.Text("\nSummary of " + arguments.Text(0) + ": "
+                        + Count(static_cast<Eigen::Index>(names.size()), "variable", "variables") + ", "
+                        + rows + " observations\n" + FormatTable(std::move(titles), cells));
+    return {};
 }
 } // namespace workbench

@@ -10,5 +10,6 @@ namespace workbench
 Outcome RunCreate(Context const& context, Arguments const& arguments);
 Outcome RunDrop(Context const& context, Arguments const& arguments);
 Outcome RunSort(Context const& context, Arguments const& arguments);
+Outcome RunSummarize(Context const& context, Arguments const& arguments);
 ///@}
 } // namespace workbench

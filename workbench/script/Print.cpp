@@ -1,13 +1,12 @@
 #include "workbench/script/Print.h"
 
 #include <algorithm>
-#include <cmath>
 #include <type_traits>
 #include <vector>
 
-#include "common/Number.h"
 #include "workbench/engine/Utf8.h"
 #include "workbench/script/Output.h"
+#include "workbench/script/Table.h"
 
 namespace workbench
 {
@@ -24,14 +23,6 @@ std::string Count(Eigen::Index count, char const* one, char const* many)
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-/// A label as a cell: a tab or a line end in it would break the table.
-std::string AsCell(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-    return text;
-}
-
 std::string Cell(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
 {
     auto const labelled = dataset.labelledColumns.find(static_cast<int>(column));
@@ -41,26 +32,18 @@ std::string Cell(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
         auto const index = static_cast<std::size_t>(row);
         return index < labels.size() && !labels[index].empty() ? AsCell(labels[index]) : ".";
     }
-    double const value = dataset.data(row, column);
-    return std::isnan(value) ? "." : zenqo::FormatNumber(value);
+    return NumberCell(dataset.data(row, column));
 }
 
-/// Column `j` of a dataset as it is printed; column 0 stands for the observations' numbers.
-struct PrintedColumn
-{
-    std::string title;
-    bool text;             ///< Aligned at the left, and numbers at the right.
-    std::size_t width = 0; ///< In characters.
-};
-
+/// A cell of column `column` as it is printed; column 0 stands for the observations' numbers.
 std::string CellOf(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
 {
     return column == 0 ? std::to_string(row + 1) : Cell(dataset, row, column);
 }
 
-std::vector<PrintedColumn> MeasureColumns(Dataset const& dataset, Eigen::Index first)
+std::vector<TableColumn> MeasureColumns(Dataset const& dataset, Eigen::Index first)
 {
-    std::vector<PrintedColumn> columns{{"obs", false}};
+    std::vector<TableColumn> columns{{"obs", false}};
     for (std::size_t j = 1; j < dataset.varNames.GetCount(); ++j)
         columns.push_back({AsCell(dataset.varNames[j].utf8_string()),
                            dataset.labelledColumns.count(static_cast<int>(j)) > 0});
@@ -72,13 +55,6 @@ std::vector<PrintedColumn> MeasureColumns(Dataset const& dataset, Eigen::Index f
                                         CountCharacters(CellOf(dataset, i, static_cast<Eigen::Index>(j))));
     }
     return columns;
-}
-
-/// A cell as wide as its column, so that the cells behind it begin at one tab stop.
-std::string Pad(std::string const& cell, PrintedColumn const& column)
-{
-    std::string const blanks(column.width - CountCharacters(cell), ' ');
-    return column.text ? cell + blanks : blanks + cell;
 }
 
 void PrintDataset(std::string const& name, Dataset const& dataset, Output& output)
