@@ -53,6 +53,7 @@ private:
             benchmarks::MeasureEquations(table);
             benchmarks::MeasureStart(table);
             benchmarks::MeasureImport(table);
+            benchmarks::MeasureData(table);
             m_status = table.AllKept() ? 0 : 1;
         }
         catch (std::exception const& error)

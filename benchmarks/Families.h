@@ -14,5 +14,6 @@ void MeasurePickers(Table& table);
 void MeasureEquations(Table& table);
 void MeasureStart(Table& table);
 void MeasureImport(Table& table);
+void MeasureData(Table& table);
 ///@}
 } // namespace benchmarks
