@@ -50,6 +50,7 @@ private:
             benchmarks::MeasureTrees(table);
             benchmarks::MeasureConsole(table);
             benchmarks::MeasurePickers(table);
+            benchmarks::MeasureVariablePickers(table);
             benchmarks::MeasureEquations(table);
             benchmarks::MeasureStart(table);
             benchmarks::MeasureImport(table);

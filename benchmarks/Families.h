@@ -11,6 +11,7 @@ void MeasureNumberGrids(Table& table);
 void MeasureTrees(Table& table);
 void MeasureConsole(Table& table);
 void MeasurePickers(Table& table);
+void MeasureVariablePickers(Table& table);
 void MeasureEquations(Table& table);
 void MeasureStart(Table& table);
 void MeasureImport(Table& table);
