@@ -3,8 +3,15 @@
 set(zenqo_public_classes
   console/MainTextCtrl
   console/ZenqoConsole
+  dialogs/data/ClearDatasetDialog
+  dialogs/data/ClearVariableDialog
+  dialogs/data/CreateVariableDialog
   dialogs/data/ExportDataDialog
   dialogs/data/ImportDataDialog
+  dialogs/data/MarkDatasetDialog
+  dialogs/data/PlotDataDialog
+  dialogs/data/SortDataDialog
+  dialogs/data/SummarizeDataDialog
   modelspec/Calculator
   modelspec/EqsNotebook
   modelspec/EqsNotebookPage
@@ -60,6 +67,7 @@ set(zenqo_engine_headers
   engine/Sentinels.h)
 
 set(zenqo_private_sources
+  common/CaretText.cpp
   common/ChoiceRow.cpp
   common/Delimiter.cpp
   common/DialogFrame.cpp
@@ -77,6 +85,7 @@ set(zenqo_private_sources
   common/NumberGrid.cpp
   common/PlusTab.cpp
   common/PriorChoice.cpp
+  common/RadioBox.cpp
   common/Records.cpp
   common/RemainingTime.cpp
   common/RoleGrid.cpp

@@ -2,15 +2,13 @@
 
 #include <wx/radiobox.h>
 
+#include "common/RadioBox.h"
+
 namespace zenqo
 {
 wxRadioBox* MakeDelimiterBox(wxWindow* parent)
 {
-    wxString const items[] = {"Comma", "Semicolon", "Tab"};
-    auto* const box = new wxRadioBox(parent, wxID_ANY, "Delimiter", wxDefaultPosition, wxDefaultSize,
-                                     WXSIZEOF(items), items, 1, wxRA_SPECIFY_COLS);
-    box->SetSelection(0);
-    return box;
+    return MakeRadioBox(parent, "Delimiter", {"Comma", "Semicolon", "Tab"});
 }
 
 char SelectedDelimiter(wxRadioBox const* box)

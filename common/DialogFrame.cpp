@@ -1,10 +1,9 @@
 #include "common/DialogFrame.h"
 
 #include <wx/button.h>
-#include <wx/dialog.h>
-#include <wx/sizer.h>
 
 #include "common/SizerItem.h"
+#include "common/Warning.h"
 
 namespace zenqo
 {
@@ -20,14 +19,52 @@ wxButton* AddButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& acceptL
     return accept;
 }
 
-void LayOutDialog(wxDialog* dialog, wxSizer* sizer)
+wxButton* AddFocusedButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& acceptLabel)
+{
+    auto* const accept = AddButtonRow(dialog, sizer, acceptLabel, 0,
+                                      wxLEFT | wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM);
+    accept->SetDefault();
+    accept->SetFocus();
+    return accept;
+}
+
+wxFlexGridSizer* AddGrowingCell(wxSizer* sizer)
+{
+    auto* const cell = new wxFlexGridSizer(1, 1, 0, 0);
+    cell->AddGrowableRow(0, 1);
+    cell->AddGrowableCol(0, 1);
+    sizer->Add(cell, 0, wxEXPAND, 5);
+    return cell;
+}
+
+wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label)
+{
+    auto* const box = new wxStaticBoxSizer(wxVERTICAL, parent, label);
+    sizer->Add(box, 0, wxEXPAND | wxALL, 5);
+    return box;
+}
+
+void LayOutDialog(wxDialog* dialog, wxSizer* sizer, int rounds)
 {
     dialog->SetSizer(sizer);
     dialog->Layout();
-    for (int round = 0; round < 2; ++round)
+    for (int round = 0; round < rounds; ++round)
     {
         dialog->Centre(wxBOTH);
         sizer->SetSizeHints(dialog);
     }
+}
+
+wxString ComplainOfNone(wxArrayString const& names, wxString const& what)
+{
+    return names[0].empty() ? "No " + what + " have been selected." : wxString();
+}
+
+void AcceptUnless(wxString const& complaint, wxDialog* dialog, wxCommandEvent& event)
+{
+    if (complaint.empty())
+        event.Skip();
+    else
+        ShowWarning(dialog, complaint);
 }
 } // namespace zenqo

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <wx/dialog.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+
 class wxButton;
-class wxDialog;
-class wxSizer;
-class wxString;
 
 namespace zenqo
 {
@@ -12,7 +13,49 @@ namespace zenqo
 wxButton* AddButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& acceptLabel, int proportion,
                        int flags);
 
+/// The same for a dialog that is shown to be accepted as it stands: the first button has the keyboard,
+/// and Enter presses it wherever the keyboard is.
+wxButton* AddFocusedButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& acceptLabel = "&Run");
+
+/// Adds to `sizer` a grid of one cell, which fills the grid.
+wxFlexGridSizer* AddGrowingCell(wxSizer* sizer);
+
+/// Adds to `sizer` an empty box with `label`, in which an ampersand is written twice.
+wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label);
+
+/// Adds to `sizer` a box with `label` around a picker that is made of `arguments`.
+template <class Picker, class... Arguments>
+Picker* AddBoxedPicker(wxDialog* dialog, wxSizer* sizer, wxString const& label,
+                       Arguments const&... arguments)
+{
+    auto* const box = AddLabelledBox(dialog, sizer, label);
+    auto* const picker = new Picker(box->GetStaticBox(), arguments...);
+    box->Add(picker, 1, wxEXPAND, 5);
+    return picker;
+}
+
 /// The end of a dialog's constructor: gives it its sizer, lays it out and centres it, and repeats
-/// the last step, since the size hints may have changed the size.
-void LayOutDialog(wxDialog* dialog, wxSizer* sizer);
+/// the last step, since the size hints may have changed the size. One round leaves it where its
+/// unfinished size was centred.
+void LayOutDialog(wxDialog* dialog, wxSizer* sizer, int rounds = 2);
+
+/// The same for a dialog with a note, which needs its width to know its height.
+template <class Note>
+void LayOutAroundNote(wxDialog* dialog, wxSizer* sizer, Note* note)
+{
+    dialog->SetSizer(sizer);
+    sizer->SetSizeHints(dialog);
+    dialog->Layout();
+    note->ResizeNoteWindow();
+    sizer->SetSizeHints(dialog);
+    dialog->Centre(wxBOTH);
+}
+
+/// What is wrong with the names that a picker gives; nothing is if there is one. `what` says what they
+/// are names of.
+wxString ComplainOfNone(wxArrayString const& names, wxString const& what = "variables");
+
+/// The end of a dialog's handler of `wxID_OK`. Without a complaint the event goes on and ends the
+/// dialog; otherwise the user is warned and the dialog stays as it is.
+void AcceptUnless(wxString const& complaint, wxDialog* dialog, wxCommandEvent& event);
 } // namespace zenqo

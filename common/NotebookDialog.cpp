@@ -2,8 +2,8 @@
 
 #include <wx/button.h>
 #include <wx/notebook.h>
-#include <wx/sizer.h>
 
+#include "common/DialogFrame.h"
 #include "common/SizerItem.h"
 
 namespace zenqo
@@ -38,10 +38,7 @@ void FinishValuesFrame(wxDialog* dialog, ValuesFrame const& frame, wxWindow* gri
 {
     frame.notebook->AddPage(grid, page, true);
     frame.notebook->SetSize(400, 100);
-    dialog->SetSizer(frame.sizer);
-    dialog->Layout();
-    dialog->Centre(wxBOTH);
-    frame.sizer->SetSizeHints(dialog);
+    LayOutDialog(dialog, frame.sizer, 1);
     dialog->SetSize(600, 100);
     // After the page was added, for it takes the focus.
     frame.accept->SetFocus();

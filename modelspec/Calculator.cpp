@@ -2,8 +2,8 @@
 
 #include <wx/button.h>
 #include <wx/sizer.h>
-#include <wx/textctrl.h>
 
+#include "common/CaretText.h"
 #include "common/Text.h"
 
 /// A key as it is drawn; what it types stands with its handler.
@@ -69,11 +69,7 @@ void Calculator::SetTarget(wxTextCtrl* target) { m_target = target; }
 
 void Calculator::Type(char const* text, long caret)
 {
-    long const before = m_target->GetInsertionPoint();
-    m_target->WriteText(zenqo::ToWide(text));
-    // The focus may move the caret, so this order matters.
-    m_target->SetFocus();
-    m_target->SetInsertionPoint(before + caret);
+    zenqo::TypeAtCaret(m_target, zenqo::ToWide(text), caret);
 }
 
 void Calculator::OnZero(wxCommandEvent&) { Type("0", 1); }

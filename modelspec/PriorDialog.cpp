@@ -4,8 +4,8 @@
 
 #include <wx/button.h>
 #include <wx/notebook.h>
-#include <wx/sizer.h>
 
+#include "common/DialogFrame.h"
 #include "common/NotebookDialog.h"
 #include "pickers/NotePanel.h"
 
@@ -30,21 +30,10 @@ PriorDialog::PriorDialog(wxWindow* parent, wxString& title, wxString note)
     auto* const restore = new wxButton(this, ID_DEFAULT, "&Default");
     zenqo::AddClosingButtons(this, sizer, restore, 2)->SetFocus();
 
-    SetSizer(sizer);
     if (notePanel)
-    {
-        sizer->SetSizeHints(this);
-        Layout();
-        notePanel->ResizeNoteWindow();
-        sizer->SetSizeHints(this);
-        Centre(wxBOTH);
-    }
+        zenqo::LayOutAroundNote(this, sizer, notePanel);
     else
-    {
-        Layout();
-        Centre(wxBOTH);
-        sizer->SetSizeHints(this);
-    }
+        zenqo::LayOutDialog(this, sizer, 1);
     // A note may ask for more; the pages give it of their room.
     SetMinSize(wxSize(GetMinWidth(), std::min(GetMinHeight(), HEIGHT)));
     SetSize(WIDTH, HEIGHT);

@@ -9,6 +9,17 @@
 #include "common/Text.h"
 #include "common/TextLabel.h"
 
+namespace
+{
+/// The text's window. There is nothing to do in it with the keyboard, so Tab passes it over.
+class NoteWindow : public wxHtmlWindow
+{
+public:
+    using wxHtmlWindow::wxHtmlWindow;
+    bool AcceptsFocusFromKeyboard() const override { return false; }
+};
+} // namespace
+
 NotePanel::NotePanel(wxWindow* parent, wxString const& text, wxSize const& size, bool)
     : wxPanel(parent)
 {
@@ -18,8 +29,8 @@ NotePanel::NotePanel(wxWindow* parent, wxString const& text, wxSize const& size,
     word->SetFont(wxFontInfo(9).Family(wxFONTFAMILY_MODERN).Bold());
     sizer->Add(word, 0, wxTOP, 0);
 
-    m_note = new wxHtmlWindow(this, wxID_ANY, wxDefaultPosition, size,
-                              wxHW_SCROLLBAR_NEVER | wxHW_NO_SELECTION, "htmlWindow");
+    m_note = new NoteWindow(this, wxID_ANY, wxDefaultPosition, size,
+                            wxHW_SCROLLBAR_NEVER | wxHW_NO_SELECTION, "htmlWindow");
     m_note->SetBorders(0);
     m_note->SetStandardFonts(9, "", "");
     ShowNote(text);

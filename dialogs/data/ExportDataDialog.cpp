@@ -3,8 +3,6 @@
 #include <wx/filename.h>
 #include <wx/filepicker.h>
 #include <wx/radiobox.h>
-#include <wx/sizer.h>
-#include <wx/statbox.h>
 
 #include "common/Delimiter.h"
 #include "common/DialogFrame.h"
@@ -17,10 +15,9 @@ ExportDataDialog::ExportDataDialog(wxWindow* parent, DatasetMap* datasets, int s
     : wxDialog(parent, wxID_ANY, "Export Data"), m_names(zenqo::KeysOf(*datasets))
 {
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
-    auto* const box = new wxStaticBoxSizer(wxVERTICAL, this, "Dataset to export");
+    auto* const box = zenqo::AddLabelledBox(this, sizer, "Dataset to export");
     m_dataset = new DatasetPicker(box->GetStaticBox());
     box->Add(m_dataset, 2, wxEXPAND, 5);
-    sizer->Add(box, 0, wxEXPAND | wxALL, 5);
     m_file = zenqo::AddSaveFileBox(this, sizer, wxEmptyString);
     m_delimiter = zenqo::MakeDelimiterBox(this);
     sizer->Add(m_delimiter, 0, wxEXPAND | wxALL, 5);

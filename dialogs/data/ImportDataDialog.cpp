@@ -10,7 +10,6 @@
 #include "common/DialogFrame.h"
 #include "common/SizerItem.h"
 #include "common/Text.h"
-#include "common/Warning.h"
 
 ImportDataDialog::ImportDataDialog(wxWindow* parent, wxString& name)
     : wxDialog(parent, wxID_ANY, "Import Data")
@@ -51,10 +50,9 @@ bool ImportDataDialog::CheckIDString(wxString name) const
 
 void ImportDataDialog::OnButtonImport(wxCommandEvent& event)
 {
-    if (CheckIDString(GetDatasetName()))
-        event.Skip();
-    else
-        zenqo::ShowWarning(this,
-                           "A dataset name must start with a letter\nand cannot contain spaces or any "
-                           "special\ncharacters (dots, commas, quotes, etc.).");
+    wxString complaint;
+    if (!CheckIDString(GetDatasetName()))
+        complaint = "A dataset name must start with a letter\nand cannot contain spaces or any "
+                    "special\ncharacters (dots, commas, quotes, etc.).";
+    zenqo::AcceptUnless(complaint, this, event);
 }

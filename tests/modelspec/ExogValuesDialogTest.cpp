@@ -57,16 +57,16 @@ TEST_CASE("exogenous values dialog: the keyboard is on OK; Enter accepts, Escape
 {
     Fixture fixture;
     fixture.Draw();
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   CHECK(fixture.Button(wxID_OK)->HasFocus());
                   Press(WXK_RETURN);
               })
           == wxID_OK);
-    CHECK(Run(fixture.dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(Run(fixture.dialog, [&] { fixture.dialog.Close(); }) == wxID_CANCEL);
-    CHECK(Run(fixture.dialog, [&] { Click(fixture.Button(wxID_CANCEL)); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { fixture.dialog.Close(); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { Click(fixture.Button(wxID_CANCEL)); }) == wxID_CANCEL);
 }
 
 TEST_CASE("exogenous values dialog: typed values come back, the one in the making too")
@@ -74,7 +74,7 @@ TEST_CASE("exogenous values dialog: typed values come back, the one in the makin
     Fixture fixture;
     fixture.Draw();
     bool const byMouse = GENERATE(true, false);
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   GoTo(fixture.grid, 0, 0);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include <catch2/catch.hpp>
 
 #include <wx/button.h>
@@ -10,32 +8,11 @@
 #include <wx/sizer.h>
 
 #include "support/Find.h"
-#include "support/ModalScript.h"
-#include "support/Stage.h"
+#include "support/RunDialog.h"
 
 /// What the dialogs have in common that are a notebook over two buttons.
 namespace notebook_dialog_checks
 {
-/// Shows the dialog modally, does `actions` to it once it stands, and gives what it answered:
-/// `wxID_NONE` if nothing of that closed it.
-inline int Run(wxDialog& dialog, std::function<void()> const& actions)
-{
-    ModalScript script;
-    script.Then(wxID_NONE);
-    dialog.CallAfter(
-        [&]
-        {
-            PumpUntil([&] { return dialog.IsActive(); });
-            Pump(150);
-            actions();
-            // A button that is pressed on the keyboard stays down for a while before it acts. But the
-            // dialog must not wait for a user who isn't there.
-            if (!PumpUntil([&] { return !dialog.IsModal(); }, 2000))
-                dialog.EndModal(wxID_NONE);
-        });
-    return dialog.ShowModal();
-}
-
 inline void Layout(wxDialog& dialog, wxString const& title, wxString const& page)
 {
     CHECK(dialog.GetTitle() == title);

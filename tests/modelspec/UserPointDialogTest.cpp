@@ -61,13 +61,13 @@ TEST_CASE("point dialog: no names, no entries")
     std::vector<std::string> names;
     UserPointDialog dialog(stage.Frame(), names);
     CHECK(dialog.GetValues().size() == 0);
-    CHECK(Run(dialog, [] { Press(WXK_RETURN); }) == wxID_OK);
+    CHECK(RunDialog(dialog, [] { Press(WXK_RETURN); }) == wxID_OK);
 }
 
 TEST_CASE("point dialog: the keyboard is on OK; Enter accepts, Escape and closing cancel")
 {
     Fixture fixture;
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   CHECK(fixture.Button(wxID_OK)->HasFocus());
@@ -75,16 +75,16 @@ TEST_CASE("point dialog: the keyboard is on OK; Enter accepts, Escape and closin
                   Press(WXK_RETURN);
               })
           == wxID_OK);
-    CHECK(Run(fixture.dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(Run(fixture.dialog, [&] { fixture.dialog.Close(); }) == wxID_CANCEL);
-    CHECK(Run(fixture.dialog, [&] { Click(fixture.Button(wxID_CANCEL)); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { fixture.dialog.Close(); }) == wxID_CANCEL);
+    CHECK(RunDialog(fixture.dialog, [&] { Click(fixture.Button(wxID_CANCEL)); }) == wxID_CANCEL);
     CHECK(fixture.dialog.GetValues() == Point(0, 0, 0));
 }
 
 TEST_CASE("point dialog: typed values come back, and are there when it is shown again")
 {
     Fixture fixture;
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   GoTo(fixture.grid, 0, 0);
@@ -97,7 +97,7 @@ TEST_CASE("point dialog: typed values come back, and are there when it is shown 
               })
           == wxID_OK);
     CHECK(fixture.dialog.GetValues() == Point(1, -2.5, 0));
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   CHECK(Column(fixture.grid, 0) == Texts{"1", "-2.5", "0"});
@@ -111,7 +111,7 @@ TEST_CASE("point dialog: a number that is still being typed is not lost")
     Fixture fixture;
     SECTION("when OK is clicked")
     {
-        CHECK(Run(fixture.dialog,
+        CHECK(RunDialog(fixture.dialog,
                   [&]
                   {
                       fixture.Type(1, "1.75");
@@ -121,7 +121,7 @@ TEST_CASE("point dialog: a number that is still being typed is not lost")
     }
     SECTION("when OK is pressed on the keyboard, which the editor keeps to itself before Enter")
     {
-        CHECK(Run(fixture.dialog,
+        CHECK(RunDialog(fixture.dialog,
                   [&]
                   {
                       fixture.Type(1, "1.75");
@@ -135,7 +135,7 @@ TEST_CASE("point dialog: a number that is still being typed is not lost")
     }
     SECTION("when the loop is ended from elsewhere")
     {
-        CHECK(Run(fixture.dialog,
+        CHECK(RunDialog(fixture.dialog,
                   [&]
                   {
                       fixture.Type(1, "1.75");
@@ -150,7 +150,7 @@ TEST_CASE("point dialog: a number that is still being typed is not lost")
 TEST_CASE("point dialog: Enter in a cell ends the number and not the dialog, Escape leaves both")
 {
     Fixture fixture;
-    CHECK(Run(fixture.dialog,
+    CHECK(RunDialog(fixture.dialog,
               [&]
               {
                   fixture.Type(0, "3");

@@ -9,8 +9,7 @@
 
 #include "pickers/DatasetPicker.h"
 #include "support/Find.h"
-#include "support/ModalScript.h"
-#include "support/Stage.h"
+#include "support/RunDialog.h"
 
 namespace
 {
@@ -135,13 +134,10 @@ TEST_CASE("export dialog: chosen, typed and accepted by hand")
     Stage stage;
     auto map = Workspace({"labour_force", "us_macro", "wages"});
     ExportDataDialog dialog(stage.Frame(), &map, 0, false);
-    ModalScript script;
-    script.Then(wxID_NONE);
-    dialog.CallAfter(
+    int const answer = RunDialog(
+        dialog,
         [&]
         {
-            PumpUntil([&] { return dialog.IsActive(); });
-            Pump(150);
             Click(Find<wxChoice>(&dialog));
             Pump(150);
             Press(WXK_DOWN);
@@ -160,19 +156,15 @@ TEST_CASE("export dialog: chosen, typed and accepted by hand")
             Keep(Photograph(&dialog), "ExportDataDialog");
             Click(dialog.FindWindow(wxID_OK));
         });
-    CHECK(dialog.ShowModal() == wxID_OK);
+    CHECK(answer == wxID_OK);
     CHECK(dialog.GetFileName() == "out/macro.txt");
 }
 
-TEST_CASE("export dialog: closing the window cancels")
+TEST_CASE("export dialog: Escape and Cancel cancel")
 {
     Stage stage;
     auto map = Workspace({"a"});
     ExportDataDialog dialog(stage.Frame(), &map, 0, false);
-    ModalScript script;
-    script.Then(wxID_NONE).Then(wxID_NONE);
-    dialog.CallAfter([&] { Pump(200); Press(WXK_ESCAPE); });
-    CHECK(dialog.ShowModal() == wxID_CANCEL);
-    dialog.CallAfter([&] { Pump(200); Click(dialog.FindWindow(wxID_CANCEL)); });
-    CHECK(dialog.ShowModal() == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
 }

@@ -6,26 +6,12 @@
 #include <wx/textctrl.h>
 
 #include "support/Find.h"
-#include "support/ModalScript.h"
-#include "support/Stage.h"
+#include "support/RunDialog.h"
 
 namespace
 {
 constexpr char const* BAD_NAME = "A dataset name must start with a letter\nand cannot contain spaces or any "
                                  "special\ncharacters (dots, commas, quotes, etc.).";
-
-/// Shows the dialog modally, does `actions` to it once it stands, and gives what it answered.
-int Run(ImportDataDialog& dialog, std::function<void()> const& actions)
-{
-    dialog.CallAfter(
-        [&]
-        {
-            PumpUntil([&] { return dialog.IsActive(); });
-            Pump(150);
-            actions();
-        });
-    return dialog.ShowModal();
-}
 } // namespace
 
 TEST_CASE("import dialog: layout")
@@ -111,23 +97,15 @@ TEST_CASE("import dialog: a name with a blank is answered by a warning, and the 
     Stage stage;
     wxString name = "us macro";
     ImportDataDialog dialog(stage.Frame(), name);
-    ModalScript script;
-    script.Then(wxID_NONE).Then(wxID_OK);
-    int const answer = Run(dialog,
-                           [&]
-                           {
-                               Click(dialog.FindWindow(wxID_OK));
-                               CHECK(dialog.IsModal());
-                               CHECK(dialog.GetDatasetName() == "us macro");
-                               Click(dialog.FindWindow(wxID_CANCEL));
-                           });
+    int const answer = RunDialog(dialog,
+                                 [&]
+                                 {
+                                     CheckRefused(dialog, BAD_NAME,
+                                                  [&] { Click(dialog.FindWindow(wxID_OK)); });
+                                     CHECK(dialog.GetDatasetName() == "us macro");
+                                     Click(dialog.FindWindow(wxID_CANCEL));
+                                 });
     CHECK(answer == wxID_CANCEL);
-    REQUIRE(script.Shown().size() == 2);
-    auto const& warning = script.Shown()[1];
-    CHECK(warning.text == BAD_NAME);
-    CHECK(warning.caption == "Warning");
-    CHECK(warning.style == (wxOK | wxICON_EXCLAMATION));
-    CHECK(warning.parent == &dialog);
 }
 
 TEST_CASE("import dialog: typing goes into the name field, and Import ends the dialog")
@@ -135,18 +113,16 @@ TEST_CASE("import dialog: typing goes into the name field, and Import ends the d
     Stage stage;
     wxString name = "wages";
     ImportDataDialog dialog(stage.Frame(), name);
-    ModalScript script;
-    script.Then(wxID_NONE);
-    int const answer = Run(dialog,
-                           [&]
-                           {
-                               CHECK(wxWindow::FindFocus() == Find<wxTextCtrl>(&dialog));
-                               Press('A', wxMOD_CONTROL);
-                               TypeText("2nd_try");
-                               CHECK(dialog.GetDatasetName() == "2nd_try");
-                               Keep(Photograph(&dialog), "ImportDataDialog");
-                               Click(dialog.FindWindow(wxID_OK));
-                           });
+    int const answer = RunDialog(dialog,
+                                 [&]
+                                 {
+                                     CHECK(wxWindow::FindFocus() == Find<wxTextCtrl>(&dialog));
+                                     Press('A', wxMOD_CONTROL);
+                                     TypeText("2nd_try");
+                                     CHECK(dialog.GetDatasetName() == "2nd_try");
+                                     Keep(Photograph(&dialog), "ImportDataDialog");
+                                     Click(dialog.FindWindow(wxID_OK));
+                                 });
     CHECK(answer == wxID_OK);
     CHECK(dialog.GetDatasetName() == "2nd_try");
 }
@@ -156,9 +132,7 @@ TEST_CASE("import dialog: an empty name passes")
     Stage stage;
     wxString name;
     ImportDataDialog dialog(stage.Frame(), name);
-    ModalScript script;
-    script.Then(wxID_NONE);
-    CHECK(Run(dialog, [&] { Click(dialog.FindWindow(wxID_OK)); }) == wxID_OK);
+    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_OK)); }) == wxID_OK);
     CHECK(dialog.GetDatasetName().empty());
 }
 
@@ -167,10 +141,8 @@ TEST_CASE("import dialog: Escape and closing the window cancel")
     Stage stage;
     wxString name = "a b";
     ImportDataDialog dialog(stage.Frame(), name);
-    ModalScript script;
-    script.Then(wxID_NONE).Then(wxID_NONE);
-    CHECK(Run(dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(Run(dialog, [&] { dialog.Close(); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { dialog.Close(); }) == wxID_CANCEL);
 }
 
 TEST_CASE("import dialog: Enter in the name field accepts")
@@ -178,14 +150,5 @@ TEST_CASE("import dialog: Enter in the name field accepts")
     Stage stage;
     wxString name = "wages";
     ImportDataDialog dialog(stage.Frame(), name);
-    ModalScript script;
-    script.Then(wxID_NONE);
-    int const answer = Run(dialog,
-                           [&]
-                           {
-                               Press(WXK_RETURN);
-                               if (!PumpUntil([&] { return !dialog.IsModal(); }, 2000))
-                                   dialog.EndModal(wxID_CANCEL);
-                           });
-    CHECK(answer == wxID_OK);
+    CHECK(RunDialog(dialog, [] { Press(WXK_RETURN); }) == wxID_OK);
 }

@@ -1,0 +1,127 @@
+#include "dialogs/data/CreateVariableDialog.h"
+
+#include <wx/textctrl.h>
+
+#include "common/CaretText.h"
+#include "common/DialogFrame.h"
+#include "common/ListBoxItems.h"
+#include "common/RoleGrid.h"
+#include "common/Text.h"
+#include "common/TransferButton.h"
+#include "common/VariableRoles.h"
+#include "engine/Functions.h"
+#include "modelspec/Calculator.h"
+#include "pickers/DatasetPicker.h"
+
+CreateVariableDialog::CreateVariableDialog(wxWindow* parent, DatasetMap* datasets)
+    : wxDialog(parent, wxID_ANY, "Create Variable"), m_datasets(datasets)
+{
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    auto* const box = zenqo::AddLabelledBox(this, sizer, "Select Dataset && Construct New Variable");
+    auto* const inBox = box->GetStaticBox();
+    // The third row stays empty.
+    auto* const rows = new wxFlexGridSizer(3, 1, 0, 0);
+    box->Add(rows, 0, wxEXPAND, 5);
+
+    m_dataset = new DatasetPicker(inBox);
+    auto* const row = new wxBoxSizer(wxVERTICAL);
+    row->Add(m_dataset, 0, wxEXPAND | wxTOP, 10);
+    rows->Add(row, 0, wxEXPAND);
+    auto* const columns = new wxFlexGridSizer(1, 2, 0, 0);
+    columns->Add(BuildVariables(inBox), 1, wxEXPAND, 5);
+    columns->Add(BuildFields(inBox), 1, wxEXPAND, 5);
+    rows->Add(columns, 1, wxEXPAND, 5);
+
+    zenqo::AddFocusedButtonRow(this, sizer);
+    zenqo::OfferKeys(m_dataset, *datasets);
+    ShowVariables();
+    zenqo::LayOutDialog(this, sizer);
+
+    Bind(wxEVT_BUTTON, &CreateVariableDialog::OnButtonOk, this, wxID_OK);
+    m_dataset->Bind(wxEVT_CHOICE, &CreateVariableDialog::OnDatasetChanged, this);
+    m_move->Bind(wxEVT_BUTTON, &CreateVariableDialog::OnMoveButton, this);
+}
+
+wxFlexGridSizer* CreateVariableDialog::BuildVariables(wxWindow* parent)
+{
+    auto* const column = new wxFlexGridSizer(2, 1, 0, 0);
+    column->AddGrowableRow(1, 100);
+    zenqo::AddCaption(column, parent, "Variables in dataset");
+    m_variables = zenqo::MakeList(parent, wxSize(zenqo::LIST_WIDTH, -1), zenqo::LIST_OF_ONE);
+    column->Add(m_variables, 1, wxEXPAND | wxALL, 5);
+    return column;
+}
+
+wxFlexGridSizer* CreateVariableDialog::BuildFields(wxWindow* parent)
+{
+    // All are made before they are laid out: the keyboard goes from control to control in this order.
+    wxSize const fieldSize(120, zenqo::OneRow(m_variables));
+    m_move = zenqo::MakeTransferButton(parent, m_variables);
+    m_name = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, fieldSize);
+    m_expression = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, fieldSize);
+    m_keypad = new Calculator(parent, m_expression);
+
+    auto* const fields = new wxFlexGridSizer(5, 2, 0, 0);
+    zenqo::AddGap(fields);
+    zenqo::AddCaption(fields, parent, "New variable name");
+    zenqo::AddGap(fields);
+    fields->Add(m_name, 1, wxEXPAND | wxALL, 5);
+    zenqo::AddGap(fields);
+    zenqo::AddCaption(fields, parent, "Expression for new variable");
+    fields->Add(m_move, 0, wxALL, 5);
+    fields->Add(m_expression, 0, wxEXPAND | wxALL, 5);
+    zenqo::AddGap(fields);
+    fields->Add(m_keypad, 1, wxEXPAND | wxALL, 5);
+    return fields;
+}
+
+std::string CreateVariableDialog::GetDatasetName() const { return m_dataset->GetSelectionString(); }
+
+wxString CreateVariableDialog::GetVarName() const { return m_name->GetValue(); }
+
+wxString CreateVariableDialog::GetExpression() const { return m_expression->GetValue(); }
+
+void CreateVariableDialog::SetDataset(int index)
+{
+    zenqo::SelectInPicker(m_dataset, index);
+    wxCommandEvent event;
+    OnDatasetChanged(event);
+}
+
+void CreateVariableDialog::ShowVariables()
+{
+    auto names = zenqo::VariableNames(*m_datasets, GetDatasetName());
+    if (!names.empty())
+        names.RemoveAt(0);
+    m_variables->Clear();
+    zenqo::AppendItems(m_variables, names);
+}
+
+wxString CreateVariableDialog::Complaint() const
+{
+    if (GetVarName().empty())
+        return "No name has been provided for the new variable.";
+    if (!CheckID(zenqo::ToNarrow(GetVarName())))
+        return "The new variable name must not contain spaces\nor special characters and it must not "
+               "begin\nwith a number.";
+    if (GetExpression().empty())
+        return "No expression has been provided for the new variable.";
+    return wxString();
+}
+
+void CreateVariableDialog::OnButtonOk(wxCommandEvent& event)
+{
+    zenqo::AcceptUnless(Complaint(), this, event);
+}
+
+void CreateVariableDialog::OnDatasetChanged(wxCommandEvent&) { ShowVariables(); }
+
+void CreateVariableDialog::OnMoveButton(wxCommandEvent&)
+{
+    auto const selected = zenqo::SelectionsOf(m_variables);
+    if (selected.empty())
+        return;
+    wxString const name = zenqo::ToWide(GetDatasetName()) + "."
+                          + m_variables->GetString(static_cast<unsigned>(selected.front()));
+    zenqo::TypeAtCaret(m_expression, name, static_cast<long>(name.length()));
+}

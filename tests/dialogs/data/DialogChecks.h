@@ -1,0 +1,96 @@
+#pragma once
+
+#include <wx/dialog.h>
+#include <wx/statbox.h>
+
+#include "modelspec/RoleLayout.h"
+#include "pickers/ListPairChecks.h"
+#include "support/RunDialog.h"
+#include "support/TabOrder.h"
+
+/// What the dialogs that work on datasets have in common.
+namespace dialog_checks
+{
+using namespace role_checks;
+
+/// The vertical sizer of a dialog that has the toolkit's own style.
+inline wxSizer* CheckFrame(wxDialog const& dialog, wxString const& title, std::size_t parts)
+{
+    CHECK(dialog.GetTitle() == title);
+    CHECK((dialog.GetWindowStyle() & ~wxTAB_TRAVERSAL) == wxDEFAULT_DIALOG_STYLE);
+    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
+    REQUIRE(sizer);
+    CHECK(sizer->GetOrientation() == wxVERTICAL);
+    REQUIRE(sizer->GetItemCount() == parts);
+    // As small as its contents let it be, and no smaller.
+    CHECK(dialog.GetSize() == dialog.GetMinSize());
+    return sizer;
+}
+
+/// The grid of one cell that grows both ways.
+inline wxSizer* CheckCell(wxSizerItem const* item)
+{
+    CHECK(PlacementOf(item) == Placement{0, wxEXPAND, 5});
+    auto* const cell = CheckGrid(item->GetSizer(), 1, 1, {{0, 1}}, {{0, 1}});
+    REQUIRE(cell->GetItemCount() == 1);
+    return cell;
+}
+
+/// The box with a caption, which holds one thing alone.
+inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label)
+{
+    CHECK(PlacementOf(item) == Placement{0, wxEXPAND | wxALL, 5});
+    auto* const box = dynamic_cast<wxStaticBoxSizer*>(item->GetSizer());
+    REQUIRE(box);
+    CHECK(box->GetOrientation() == wxVERTICAL);
+    CHECK(box->GetStaticBox()->GetLabel() == label);
+    REQUIRE(box->GetItemCount() == 1);
+    return Item(box, 0);
+}
+
+inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog)
+{
+    CHECK(PlacementOf(item)
+          == Placement{0, wxLEFT | wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM, 5});
+    auto* const row = dynamic_cast<wxStdDialogButtonSizer*>(item->GetSizer());
+    REQUIRE(row);
+    CHECK(row->GetAffirmativeButton() == dialog.FindWindow(wxID_OK));
+    CHECK(row->GetCancelButton() == dialog.FindWindow(wxID_CANCEL));
+    CHECK(dialog.FindWindow(wxID_OK)->GetLabel() == "&Run");
+    CHECK(dialog.FindWindow(wxID_CANCEL)->GetLabel() == "&Cancel");
+}
+
+/// All the ways out that cancel.
+inline void CheckWaysOut(wxDialog& dialog)
+{
+    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { dialog.Close(); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
+}
+
+/// The Tab key goes through `controls`, to "Cancel" and "Run" and to the dataset's row, and then to
+/// the first again.
+inline void CheckTabs(wxDialog& dialog, std::vector<wxWindow*> controls)
+{
+    controls.push_back(dialog.FindWindow(wxID_CANCEL));
+    controls.push_back(dialog.FindWindow(wxID_OK));
+    // The toolkit does not tell when the keyboard has come to a choice.
+    controls.push_back(nullptr);
+    RunDialog(dialog,
+              [&]
+              {
+                  CHECK(TabOrder(controls.front(), 60) == controls);
+                  dialog.EndModal(wxID_CANCEL);
+              });
+}
+
+/// True if the handler of "&Run" lets the event go on, which ends the dialog.
+template <class Dialog>
+bool Accepts(Dialog& dialog)
+{
+    wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
+    event.Skip(false);
+    dialog.OnButtonOk(event);
+    return event.GetSkipped();
+}
+} // namespace dialog_checks
