@@ -10,13 +10,13 @@
 #include <wx/splitter.h>
 
 #include "console/ZenqoConsole.h"
-#include "dialogs/data/ExportDataDialog.h"
 #include "engine/Engine.h"
 #include "panes/DatasetsPane.h"
 #include "panes/StatusBar.h"
 #include "workbench/app/ModelForm.h"
 #include "workbench/app/SidePanes.h"
 #include "workbench/app/StartPage.h"
+#include "workbench/app/Statement.h"
 
 namespace workbench
 {
@@ -25,13 +25,6 @@ namespace
 char const* const WORKSPACE_FILES = "Workspace files (*.zws)|*.zws";
 char const* const SCRIPT_FILES = "Scripts (*.zqs)|*.zqs|All files|*";
 char const* const TEXT_FILES = "Text data (*.csv;*.txt)|*.csv;*.txt";
-
-std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
-
-wxString Wide(std::string const& text) { return wxString(text.c_str(), wxConvLibc); }
-
-/// A delimiter as the script language writes it.
-std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : std::string(1, delimiter); }
 } // namespace
 
 MainFrame::MainFrame(std::string const& samples)
@@ -168,7 +161,19 @@ void MainFrame::MakeDataMenu(wxMenuBar& bar)
 {
     auto* const menu = new wxMenu;
     AddEntry(*menu, "&Import...\tCtrl+I", "Makes a dataset of a text file", [this] { ImportData(); });
-    AddEntry(*menu, "&Export...\tCtrl+E", "Writes a dataset to a text file", [this] { ExportData(); });
+    auto const add = [this, menu](wxString const& label, wxString const& help, Ask ask, Page page)
+    { AddEntry(*menu, label, help, [=] { AskAndRun(ask, page); }); };
+    add("&Export...\tCtrl+E", "Writes a dataset to a text file", AskExport, PAGE_CONSOLE);
+    menu->AppendSeparator();
+    add("&Create variable...\tCtrl+K", "Makes a variable by an expression", AskCreateVariable, PAGE_DATA);
+    add("&Delete variables...", "Takes variables out of a dataset", AskDeleteVariables, PAGE_DATA);
+    add("&Sort...", "Puts the observations in order", AskSort, PAGE_DATA);
+    add("Set s&tructure...", "Says which variable is time, and which names groups", AskStructure,
+        PAGE_CONSOLE);
+    add("Clear data&set...", "Takes a dataset out of the workspace", AskClearDataset, PAGE_CONSOLE);
+    menu->AppendSeparator();
+    add("S&ummarize...\tCtrl+U", "Prints statistics of variables", AskSummarize, PAGE_CONSOLE);
+    add("P&lot...\tCtrl+G", "Draws variables", AskPlot, PAGE_CONSOLE);
     menu->AppendSeparator();
     AddEntry(*menu, "&Print\tCtrl+P", "Prints the shown dataset or matrix on the console",
              [this] { PrintShown(); });
@@ -268,32 +273,40 @@ void MainFrame::ImportData()
     m_side->Datasets().OnDropFiles(event);
 }
 
-void MainFrame::ExportData()
+bool MainFrame::HasDatasets()
 {
     if (m_workspace.datasets.empty())
-    {
-        wxMessageBox("There is no dataset to export.", "Export Data", wxOK | wxICON_INFORMATION, this);
-        return;
-    }
+        wxMessageBox("There is no dataset in the workspace.", "Zenqo Workbench", wxOK | wxICON_INFORMATION,
+                     this);
+    return !m_workspace.datasets.empty();
+}
+
+int MainFrame::ShownDataset() const
+{
     auto const shown = m_workspace.datasets.find(m_dataPage->Shown());
-    auto const selection = shown == m_workspace.datasets.end()
-                               ? 0
-                               : static_cast<int>(std::distance(m_workspace.datasets.begin(), shown));
-    ExportDataDialog dialog(this, &m_workspace.datasets, selection, true);
-    if (dialog.ShowModal() == wxID_OK)
-        Run("export(" + dialog.GetDatasetName() + ", \"" + dialog.GetFileName() + "\", \""
-            + DelimiterText(dialog.GetDelimiter()) + "\");");
+    return shown == m_workspace.datasets.end()
+               ? 0
+               : static_cast<int>(std::distance(m_workspace.datasets.begin(), shown));
+}
+
+void MainFrame::AskAndRun(Ask ask, Page page)
+{
+    if (!HasDatasets())
+        return;
+    auto const statement = ask(this, m_workspace.datasets, ShownDataset());
+    if (!statement)
+        return;
+    ShowPage(page);
+    // What went wrong is told on the console.
+    if (!Run(*statement))
+        ShowPage(PAGE_CONSOLE);
 }
 
 template <class Form>
 void MainFrame::FillForm()
 {
-    if (m_workspace.datasets.empty())
-    {
-        wxMessageBox("There is no dataset whose variables could be chosen.", "Zenqo Workbench",
-                     wxOK | wxICON_INFORMATION, this);
+    if (!HasDatasets())
         return;
-    }
     Form form(this, &m_workspace.datasets);
     if (form.ShowModal() != wxID_OK)
         return;

@@ -8,6 +8,7 @@
 
 #include "panes/DataGrid.h"
 #include "panes/MatrixGrid.h"
+#include "workbench/app/DataForms.h"
 #include "workbench/app/GridPage.h"
 #include "workbench/app/ScriptRunner.h"
 #include "workbench/engine/Workspace.h"
@@ -65,7 +66,12 @@ private:
     bool SaveWorkspace();
     bool SaveWorkspaceAs();
     void ImportData();
-    void ExportData();
+    using Ask = Asked (*)(wxWindow* parent, DatasetMap& datasets, int shown);
+
+    /// Lets the user compose a statement in a data dialog, and runs it with `page` on view.
+    void AskAndRun(Ask ask, Page page);
+    bool HasDatasets();
+    int ShownDataset() const;
     void PrintShown();
     template <class Form> void FillForm();
     void RunScript();

@@ -17,6 +17,7 @@
 #include "modelspec/VariablePicker_YXS.h"
 #include "modelspec/VariablePicker_yX.h"
 #include "pickers/AdditionalPicker1.h"
+#include "workbench/app/Statement.h"
 
 namespace workbench
 {
@@ -25,26 +26,13 @@ namespace
 constexpr int LIST_HEIGHT = 220;
 constexpr int ID_DEFINE = 6022; ///< The prior picker's button "&Define".
 
-std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
-
-/// Names with blanks between them; the one empty name of an empty choice gives an empty text.
-std::string Joined(wxArrayString const& names)
-{
-    std::string joined;
-    for (wxString const& name : names)
-        joined += (joined.empty() ? "" : " ") + Narrow(name);
-    return joined;
-}
-
 /// `name = design(dataset, "dependent", "independent", [lags]);`
 std::string DesignStatement(std::string const& name, std::string const& dataset, wxString const& dependent,
                             wxArrayString const& independent, std::vector<int> const& lags = {})
 {
-    std::string statement
-        = name + " = design(" + dataset + ", \"" + Narrow(dependent) + "\", \"" + Joined(independent) + "\"";
-    for (std::size_t i = 0; i < lags.size(); ++i)
-        statement += (i == 0 ? ", [" : ", ") + std::to_string(lags[i]);
-    return statement + (lags.empty() ? "" : "]") + ");";
+    Statement statement(name, "design");
+    statement.Name(dataset).Text(Narrow(dependent)).Text(Joined(independent));
+    return lags.empty() ? statement : statement.Row(lags);
 }
 
 /// The form's sizer, with `content` above the end that is still to come.

@@ -1,0 +1,124 @@
+#include "workbench/app/DataForms.h"
+
+#include <wx/arrstr.h>
+
+#include "dialogs/data/ClearDatasetDialog.h"
+#include "dialogs/data/ClearVariableDialog.h"
+#include "dialogs/data/CreateVariableDialog.h"
+#include "dialogs/data/ExportDataDialog.h"
+#include "dialogs/data/MarkDatasetDialog.h"
+#include "dialogs/data/PlotDataDialog.h"
+#include "dialogs/data/SortDataDialog.h"
+#include "dialogs/data/SummarizeDataDialog.h"
+#include "workbench/app/Statement.h"
+
+namespace workbench
+{
+namespace
+{
+/// A delimiter as the script language writes it.
+std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : std::string(1, delimiter); }
+
+/// Shows a dialog in which the dataset `shown` is selected and nothing chosen of it.
+template <class Dialog>
+bool ShowFor(Dialog& dialog, int shown)
+{
+    wxArrayString none;
+    none.Add(wxEmptyString);
+    dialog.SetVariables(shown, none);
+    return dialog.ShowModal() == wxID_OK;
+}
+
+/// What a dialog says of a dataset and its variables, after `command`.
+template <class Dialog>
+std::string WithVariables(char const* command, Dialog const& dialog)
+{
+    return Statement(command).Name(dialog.GetDatasetName()).Text(Joined(dialog.GetVarNames()));
+}
+} // namespace
+
+Asked AskExport(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    ExportDataDialog dialog(parent, &datasets, shown, true);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    return Statement("export")
+        .Name(dialog.GetDatasetName())
+        .Text(dialog.GetFileName())
+        .Text(DelimiterText(dialog.GetDelimiter()));
+}
+
+Asked AskClearDataset(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    ClearDatasetDialog dialog(parent, &datasets);
+    dialog.SetDataset(shown);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    return Statement("clear").Name(dialog.GetDatasetName());
+}
+
+Asked AskDeleteVariables(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    ClearVariableDialog dialog(parent, &datasets);
+    if (!ShowFor(dialog, shown))
+        return {};
+    return WithVariables("drop", dialog);
+}
+
+Asked AskCreateVariable(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    CreateVariableDialog dialog(parent, &datasets);
+    dialog.SetDataset(shown);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    return Statement("create")
+        .Name(dialog.GetDatasetName())
+        .Text(Narrow(dialog.GetVarName()))
+        .Text(Narrow(dialog.GetExpression()));
+}
+
+Asked AskStructure(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    static char const* const FORMATS[] = {"index", "yyyyqx", "yyyymxx", "yyyy/mm/dd"};
+    MarkDatasetDialog dialog(parent, &datasets);
+    dialog.SetDataset(shown);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    return Statement("structure")
+        .Name(dialog.GetDatasetName())
+        .Text(Narrow(dialog.GetTimeVar()))
+        .Text(FORMATS[dialog.GetTimeFormat()])
+        .Text(Narrow(dialog.GetGroupVar()));
+}
+
+Asked AskSort(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    SortDataDialog dialog(parent, &datasets);
+    if (!ShowFor(dialog, shown))
+        return {};
+    return WithVariables("sort", dialog);
+}
+
+Asked AskSummarize(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    SummarizeDataDialog dialog(parent, &datasets);
+    if (!ShowFor(dialog, shown))
+        return {};
+    return Statement("summarize")
+        .Name(dialog.GetDatasetName())
+        .Text(Joined(dialog.GetVarNames()))
+        .Text(dialog.GetSummarizeAll() ? "complete" : "available");
+}
+
+Asked AskPlot(wxWindow* parent, DatasetMap& datasets, int shown)
+{
+    static char const* const TYPES[] = {"histogram", "scatter", "history", "density", "lines", "correlogram"};
+    PlotDataDialog dialog(parent, &datasets);
+    if (!ShowFor(dialog, shown))
+        return {};
+    return Statement("plot")
+        .Name(dialog.GetDatasetName())
+        .Text(Joined(dialog.GetVarNames()))
+        .Text(TYPES[dialog.GetPlotType()]);
+}
+} // namespace workbench

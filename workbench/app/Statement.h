@@ -1,0 +1,65 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
+namespace workbench
+{
+inline std::string Narrow(wxString const& text) { return text.ToStdString(wxConvLibc); }
+
+inline wxString Wide(std::string const& text) { return wxString(text.c_str(), wxConvLibc); }
+
+/// Names with blanks between them; the one empty name of an empty choice gives an empty text.
+inline std::string Joined(wxArrayString const& names)
+{
+    std::string joined;
+    for (wxString const& name : names)
+        joined += (joined.empty() ? "" : " ") + Narrow(name);
+    return joined;
+}
+
+/// A statement of the script language, composed argument by argument:
+///
+///     std::string const script = Statement("sort").Name("wages").Text("educ age"); // sort(wages, "educ age");
+class Statement
+{
+public:
+    explicit Statement(std::string const& command) : m_text(command + "(") {}
+
+    /// `name = command(...)`.
+    Statement(std::string const& name, std::string const& command) : m_text(name + " = " + command + "(") {}
+
+    /// An argument that is the name of an object.
+    Statement& Name(std::string const& name) { return Add(name); }
+
+    /// An argument in double quotes. The language has no way to write a double quote within.
+    Statement& Text(std::string const& text) { return Add('"' + text + '"'); }
+
+    /// An argument that is a matrix of one row.
+    Statement& Row(std::vector<int> const& values)
+    {
+        std::string row;
+        for (int const value : values)
+            row += (row.empty() ? "" : ", ") + std::to_string(value);
+        return Add("[" + row + "]");
+    }
+
+    operator std::string() const { return m_text + ");"; }
+    operator std::optional<std::string>() const { return m_text + ");"; }
+
+private:
+    Statement& Add(std::string const& argument)
+    {
+        m_text += (m_isFirst ? "" : ", ") + argument;
+        m_isFirst = false;
+        return *this;
+    }
+
+    std::string m_text;
+    bool m_isFirst = true;
+};
+} // namespace workbench
