@@ -1,0 +1,134 @@
+#include "workbench/app/DataForms.h"
+
+#include <catch2/catch.hpp>
+
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/dialog.h>
+#include <wx/listbox.h>
+#include <wx/radiobox.h>
+#include <wx/textctrl.h>
+
+#include "support/Find.h"
+#include "support/ListClicks.h"
+#include "support/ModalScript.h"
+#include "support/Stage.h"
+#include "workbench/engine/Workspace.h"
+
+using workbench::Asked;
+
+namespace
+{
+using Ask = Asked (*)(wxWindow* parent, DatasetMap& datasets, int shown);
+
+DatasetMap Datasets()
+{
+    return {{"macro", workbench::MakeDataset({"gdp", "cpi", "rate"}, 3)},
+            {"wages", workbench::MakeDataset({"wage", "educ", "age"}, 3)}};
+}
+
+/// Asks with "wages" shown, does `steps` in the dialog, and ends it with the button `end`.
+Asked AskWith(Ask ask, std::function<void(wxDialog*)> const& steps, int end = wxID_OK)
+{
+    Stage stage;
+    auto datasets = Datasets();
+    ModalScript script;
+    script.Then(
+        [&](wxDialog* dialog)
+        {
+            dialog->CallAfter(
+                [&, dialog]
+                {
+                    Pump(150);
+                    steps(dialog);
+                    Click(dialog->FindWindow(end));
+                });
+            return wxID_NONE;
+        });
+    return ask(stage.Frame(), datasets, 1);
+}
+
+/// Moves entry `index` of the left list to the role list by clicks.
+void Choose(wxDialog* dialog, int index)
+{
+    ClickEntry(Find<wxListBox>(dialog), index);
+    Click(Find<wxButton>(dialog));
+}
+} // namespace
+
+TEST_CASE("the data dialogs compose statements for the dataset that is shown")
+{
+    CHECK(AskWith(workbench::AskSort,
+                  [](wxDialog* dialog)
+                  {
+                      Choose(dialog, 2);
+                      Choose(dialog, 0);
+                  })
+          == Asked("sort(wages, \"age wage\");"));
+    CHECK(AskWith(workbench::AskDeleteVariables, [](wxDialog* dialog) { Choose(dialog, 1); })
+          == Asked("drop(wages, \"educ\");"));
+    CHECK(AskWith(workbench::AskSummarize, [](wxDialog* dialog) { Choose(dialog, 1); })
+          == Asked("summarize(wages, \"educ\", \"available\");"));
+    CHECK(AskWith(workbench::AskSummarize,
+                  [](wxDialog* dialog)
+                  {
+                      Choose(dialog, 1);
+                      Find<wxRadioBox>(dialog)->SetSelection(1);
+                  })
+          == Asked("summarize(wages, \"educ\", \"complete\");"));
+    CHECK(AskWith(workbench::AskClearDataset, [](wxDialog*) {}) == Asked("clear(wages);"));
+}
+
+TEST_CASE("a plot's statement names its type")
+{
+    char const* const types[] = {"histogram", "scatter", "history", "density", "lines", "correlogram"};
+    for (int type = 0; type < 6; ++type)
+        CHECK(AskWith(workbench::AskPlot,
+                      [type](wxDialog* dialog)
+                      {
+                          Choose(dialog, 0);
+                          Choose(dialog, 0);
+                          Find<wxRadioBox>(dialog)->SetSelection(type);
+                      })
+              == Asked("plot(wages, \"wage educ\", \"" + std::string(types[type]) + "\");"));
+}
+
+TEST_CASE("a new variable's statement has its name and its expression as they were typed")
+{
+    CHECK(AskWith(workbench::AskCreateVariable,
+                  [](wxDialog* dialog)
+                  {
+                      Click(Find<wxTextCtrl>(dialog, 0));
+                      TypeText("lwage");
+                      Click(Find<wxTextCtrl>(dialog, 1));
+                      TypeText("2*");
+                      ClickEntry(Find<wxListBox>(dialog), 0);
+                      Click(Find<wxButton>(dialog));
+                  })
+          == Asked("create(wages, \"lwage\", \"2*wages.wage\");"));
+}
+
+TEST_CASE("a structure's statement names the format, and empty names take the structure away")
+{
+    CHECK(AskWith(workbench::AskStructure, [](wxDialog*) {})
+          == Asked("structure(wages, \"\", \"index\", \"\");"));
+    char const* const formats[] = {"index", "yyyyqx", "yyyymxx", "yyyy/mm/dd"};
+    for (int format = 0; format < 4; ++format)
+        CHECK(AskWith(workbench::AskStructure,
+                      [format](wxDialog* dialog)
+                      {
+                          Choose(dialog, 2);
+                          ClickEntry(Find<wxListBox>(dialog), 0);
+                          Click(Find<wxButton>(dialog, 1));
+                          Find<wxChoice>(dialog, 1)->SetSelection(format);
+                      })
+              == Asked("structure(wages, \"age\", \"" + std::string(formats[format]) + "\", \"wage\");"));
+}
+
+TEST_CASE("a cancelled data dialog composes nothing")
+{
+    for (Ask const ask : {workbench::AskExport, workbench::AskClearDataset, workbench::AskDeleteVariables,
+                          workbench::AskCreateVariable, workbench::AskStructure, workbench::AskSort,
+                          workbench::AskSummarize, workbench::AskPlot})
+        CHECK(AskWith(ask, [](wxDialog*) {}, wxID_CANCEL) == Asked());
+}
