@@ -10,7 +10,7 @@
 #include "dialogs/data/PlotDataDialog.h"
 #include "dialogs/data/SortDataDialog.h"
 #include "dialogs/data/SummarizeDataDialog.h"
-#include "workbench/app/Statement.h"
+#include "workbench/app/CallText.h"
 
 namespace workbench
 {
@@ -33,7 +33,7 @@ bool ShowFor(Dialog& dialog, int shown)
 template <class Dialog>
 std::string WithVariables(char const* command, Dialog const& dialog)
 {
-    return Statement(command).Name(dialog.GetDatasetName()).Text(Joined(dialog.GetVarNames()));
+    return CallText(command).Name(dialog.GetDatasetName()).Text(Joined(dialog.GetVarNames())).Done();
 }
 } // namespace
 
@@ -42,10 +42,10 @@ Asked AskExport(wxWindow* parent, DatasetMap& datasets, int shown)
     ExportDataDialog dialog(parent, &datasets, shown, true);
     if (dialog.ShowModal() != wxID_OK)
         return {};
-    return Statement("export")
+    return CallText("export")
         .Name(dialog.GetDatasetName())
         .Text(dialog.GetFileName())
-        .Text(DelimiterText(dialog.GetDelimiter()));
+        .Text(DelimiterText(dialog.GetDelimiter())).Done();
 }
 
 Asked AskClearDataset(wxWindow* parent, DatasetMap& datasets, int shown)
@@ -54,7 +54,7 @@ Asked AskClearDataset(wxWindow* parent, DatasetMap& datasets, int shown)
     dialog.SetDataset(shown);
     if (dialog.ShowModal() != wxID_OK)
         return {};
-    return Statement("clear").Name(dialog.GetDatasetName());
+    return CallText("clear").Name(dialog.GetDatasetName()).Done();
 }
 
 Asked AskDeleteVariables(wxWindow* parent, DatasetMap& datasets, int shown)
@@ -71,10 +71,10 @@ Asked AskCreateVariable(wxWindow* parent, DatasetMap& datasets, int shown)
     dialog.SetDataset(shown);
     if (dialog.ShowModal() != wxID_OK)
         return {};
-    return Statement("create")
+    return CallText("create")
         .Name(dialog.GetDatasetName())
         .Text(Narrow(dialog.GetVarName()))
-        .Text(Narrow(dialog.GetExpression()));
+        .Text(Narrow(dialog.GetExpression())).Done();
 }
 
 Asked AskStructure(wxWindow* parent, DatasetMap& datasets, int shown)
@@ -84,11 +84,11 @@ Asked AskStructure(wxWindow* parent, DatasetMap& datasets, int shown)
     dialog.SetDataset(shown);
     if (dialog.ShowModal() != wxID_OK)
         return {};
-    return Statement("structure")
+    return CallText("structure")
         .Name(dialog.GetDatasetName())
         .Text(Narrow(dialog.GetTimeVar()))
         .Text(FORMATS[dialog.GetTimeFormat()])
-        .Text(Narrow(dialog.GetGroupVar()));
+        .Text(Narrow(dialog.GetGroupVar())).Done();
 }
 
 Asked AskSort(wxWindow* parent, DatasetMap& datasets, int shown)
@@ -104,10 +104,10 @@ Asked AskSummarize(wxWindow* parent, DatasetMap& datasets, int shown)
     SummarizeDataDialog dialog(parent, &datasets);
     if (!ShowFor(dialog, shown))
         return {};
-    return Statement("summarize")
+    return CallText("summarize")
         .Name(dialog.GetDatasetName())
         .Text(Joined(dialog.GetVarNames()))
-        .Text(dialog.GetSummarizeAll() ? "complete" : "available");
+        .Text(dialog.GetSummarizeAll() ? "complete" : "available").Done();
 }
 
 Asked AskPlot(wxWindow* parent, DatasetMap& datasets, int shown)
@@ -116,9 +116,9 @@ Asked AskPlot(wxWindow* parent, DatasetMap& datasets, int shown)
     PlotDataDialog dialog(parent, &datasets);
     if (!ShowFor(dialog, shown))
         return {};
-    return Statement("plot")
+    return CallText("plot")
         .Name(dialog.GetDatasetName())
         .Text(Joined(dialog.GetVarNames()))
-        .Text(TYPES[dialog.GetPlotType()]);
+        .Text(TYPES[dialog.GetPlotType()]).Done();
 }
 } // namespace workbench

@@ -13,10 +13,10 @@
 #include "engine/Engine.h"
 #include "panes/DatasetsPane.h"
 #include "panes/StatusBar.h"
+#include "workbench/app/CallText.h"
 #include "workbench/app/ModelForm.h"
 #include "workbench/app/SidePanes.h"
 #include "workbench/app/StartPage.h"
-#include "workbench/app/Statement.h"
 
 namespace workbench
 {

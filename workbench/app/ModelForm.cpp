@@ -17,7 +17,7 @@
 #include "modelspec/VariablePicker_YXS.h"
 #include "modelspec/VariablePicker_yX.h"
 #include "pickers/AdditionalPicker1.h"
-#include "workbench/app/Statement.h"
+#include "workbench/app/CallText.h"
 
 namespace workbench
 {
@@ -30,9 +30,9 @@ constexpr int ID_DEFINE = 6022; ///< The prior picker's button "&Define".
 std::string DesignStatement(std::string const& name, std::string const& dataset, wxString const& dependent,
                             wxArrayString const& independent, std::vector<int> const& lags = {})
 {
-    Statement statement(name, "design");
+    CallText statement(name, "design");
     statement.Name(dataset).Text(Narrow(dependent)).Text(Joined(independent));
-    return lags.empty() ? statement : statement.Row(lags);
+    return (lags.empty() ? statement : statement.Row(lags)).Done();
 }
 
 /// The form's sizer, with `content` above the end that is still to come.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,25 +21,25 @@ inline std::string Joined(wxArrayString const& names)
     return joined;
 }
 
-/// A statement of the script language, composed argument by argument:
+/// A call of the script language, composed argument by argument:
 ///
-///     std::string const script = Statement("sort").Name("wages").Text("educ age"); // sort(wages, "educ age");
-class Statement
+///     auto const script = CallText("sort").Name("wages").Text("educ age").Done(); // sort(wages, "educ age");
+class CallText
 {
 public:
-    explicit Statement(std::string const& command) : m_text(command + "(") {}
+    explicit CallText(std::string const& command) : m_text(command + "(") {}
 
     /// `name = command(...)`.
-    Statement(std::string const& name, std::string const& command) : m_text(name + " = " + command + "(") {}
+    CallText(std::string const& name, std::string const& command) : m_text(name + " = " + command + "(") {}
 
     /// An argument that is the name of an object.
-    Statement& Name(std::string const& name) { return Add(name); }
+    CallText& Name(std::string const& name) { return Add(name); }
 
     /// An argument in double quotes. The language has no way to write a double quote within.
-    Statement& Text(std::string const& text) { return Add('"' + text + '"'); }
+    CallText& Text(std::string const& text) { return Add('"' + text + '"'); }
 
     /// An argument that is a matrix of one row.
-    Statement& Row(std::vector<int> const& values)
+    CallText& Row(std::vector<int> const& values)
     {
         std::string row;
         for (int const value : values)
@@ -48,11 +47,11 @@ public:
         return Add("[" + row + "]");
     }
 
-    operator std::string() const { return m_text + ");"; }
-    operator std::optional<std::string>() const { return m_text + ");"; }
+    /// The statement as a whole.
+    std::string Done() const { return m_text + ");"; }
 
 private:
-    Statement& Add(std::string const& argument)
+    CallText& Add(std::string const& argument)
     {
         m_text += (m_isFirst ? "" : ", ") + argument;
         m_isFirst = false;
