@@ -17,6 +17,11 @@ void ConsoleOutput::Error(std::string const& text) { m_console.PrintOnConsoleErr
 
 void ConsoleOutput::Line() { m_console.PrintOnConsoleLine(); }
 
+void ConsoleOutput::ShowFigure(std::shared_ptr<Figure const> const& figure, std::string const& picture)
+{
+    m_viewer(figure, picture);
+}
+
 int ConsoleOutput::MaxLines() const
 {
     // The console on the screen keeps 600 lines; standard output takes all.

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <string>
+
 #include "workbench/script/Output.h"
 
 class ZenqoConsole;
@@ -10,6 +14,9 @@ namespace workbench
 class ConsoleOutput : public Output
 {
 public:
+    /// Is handed a figure, and its drawing as the bytes of a PNG picture.
+    using FigureViewer = std::function<void(std::shared_ptr<Figure const> const&, std::string const&)>;
+
     explicit ConsoleOutput(ZenqoConsole& console) : m_console(console) {}
 
     void Code(std::string const& text) override;
@@ -18,9 +25,15 @@ public:
     void Warning(std::string const& text) override;
     void Error(std::string const& text) override;
     void Line() override;
+    bool ShowsFigures() const override { return m_viewer != nullptr; }
+    void ShowFigure(std::shared_ptr<Figure const> const& figure, std::string const& picture) override;
     int MaxLines() const override;
+
+    /// Where figures are shown from now on.
+    void SetFigureViewer(FigureViewer viewer) { m_viewer = std::move(viewer); }
 
 private:
     ZenqoConsole& m_console;
+    FigureViewer m_viewer;
 };
 } // namespace workbench

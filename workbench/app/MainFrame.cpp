@@ -14,6 +14,7 @@
 #include "panes/DatasetsPane.h"
 #include "panes/StatusBar.h"
 #include "workbench/app/CallText.h"
+#include "workbench/app/FigureWindow.h"
 #include "workbench/app/ModelForm.h"
 #include "workbench/app/SidePanes.h"
 #include "workbench/app/StartPage.h"
@@ -49,6 +50,8 @@ MainFrame::MainFrame(std::string const& samples)
     m_matrixPage.emplace(*m_matrixGrid, m_workspace.matrices);
     m_runner.emplace(m_workspace, *m_console, *m_bar,
                      [this](Workspace const& before) { OnWorkspaceChanged(before); });
+    m_figures = new FigureWindow(this);
+    m_runner->SetFigureViewer([this](auto const& figure, auto const& picture) { m_figures->Add(figure, picture); });
     MakeMenus();
 
     Bind(wxEVT_PRINT_AND_RUN, &MainFrame::OnPrintAndRun, this);
@@ -212,6 +215,12 @@ void MainFrame::MakeViewMenu(wxMenuBar& bar)
     AddEntry(*menu, "&Console\tCtrl+2", "Shows the console", [this] { ShowPage(PAGE_CONSOLE); });
     AddEntry(*menu, "&Data\tCtrl+3", "Shows the datasets", [this] { ShowPage(PAGE_DATA); });
     AddEntry(*menu, "&Matrices\tCtrl+4", "Shows the matrices", [this] { ShowPage(PAGE_MATRICES); });
+    wxMenuItem* const figures = menu->Append(wxID_ANY, "&Figures\tCtrl+5", "Shows the plots of this session");
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { m_figures->BringUp(); }, figures->GetId());
+    Bind(
+        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(!m_figures->IsEmpty()); },
+        figures->GetId());
     bar.Append(menu, "&View");
 }
 

@@ -19,6 +19,7 @@ class ZenqoConsole;
 
 namespace workbench
 {
+class FigureWindow;
 class SidePanes;
 
 /// The workbench's window: the panes at the left, console, grids and start page in the middle, the
@@ -97,6 +98,7 @@ private:
     DataGrid* m_dataGrid;
     MatrixGrid* m_matrixGrid;
     StatusBar* m_bar;
+    FigureWindow* m_figures;
     std::optional<GridPage<DataGrid, Dataset>> m_dataPage;
     std::optional<GridPage<MatrixGrid, Eigen::MatrixXd>> m_matrixPage;
     std::optional<ScriptRunner> m_runner;

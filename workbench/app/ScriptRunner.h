@@ -26,6 +26,9 @@ public:
     /// Runs the script file at `path`, statement by statement.
     bool RunFile(std::string const& path);
 
+    /// Where the figures of commands are shown.
+    void SetFigureViewer(ConsoleOutput::FigureViewer viewer) { m_output.SetFigureViewer(std::move(viewer)); }
+
     bool IsBusy() const { return m_busy; }
 
     /// Asks the running command to end.

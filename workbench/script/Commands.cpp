@@ -11,6 +11,7 @@
 #include "workbench/script/DataCommands.h"
 #include "workbench/script/Nearest.h"
 #include "workbench/script/Output.h"
+#include "workbench/script/PlotCommands.h"
 #include "workbench/script/Print.h"
 
 namespace workbench
@@ -232,6 +233,14 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Replaces the whole workspace by that of a workspace file.",
          RunLoad},
+        {"plot",
+         {{"name", Kind::DatasetName},
+          {"variables", Kind::String},
+          {"type", Kind::String},
+          {"path", Kind::String, true}},
+         Naming::Never,
+         "Draws variables of a dataset as a histogram, scatter, history, density, lines or correlogram.",
+         RunPlot},
         {"print",
          {{"name", Kind::ObjectName}},
          Naming::Never,

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <Eigen/Core>
 
 namespace workbench
 {
+struct Figure;
+
 /// Where a script's output goes: the console of a window, or the standard output.
 class Output
 {
@@ -24,6 +27,12 @@ public:
 
     /// A horizontal rule.
     virtual void Line() = 0;
+
+    /// Whether there is a window that shows figures.
+    virtual bool ShowsFigures() const { return false; }
+
+    /// Shows a figure, which is also handed drawn, as the bytes of a PNG picture.
+    virtual void ShowFigure(std::shared_ptr<Figure const> const&, std::string const&) {}
 
     /// The most lines that are worth printing, since older ones are dropped; 0 for no limit.
     virtual int MaxLines() const { return 0; }
