@@ -247,7 +247,7 @@ Panel CorrelogramPanel(Variable const& variable, std::string& description, Progr
     Panel panel;
     panel.xLabel = "Lag";
     panel.yLabel = "ACF of " + variable.name;
-    panel.note = Note(variable, "95% band of white noise ±", band);
+    panel.note = Note(variable, "95% band ±", band);
     panel.x = {0.0, lags + 1.0};
     // In every correlogram the same, but of two or three values the band is wider than this.
     double const edge = std::max(1.0, 1.1 * band);

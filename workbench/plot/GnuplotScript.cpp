@@ -16,8 +16,10 @@ namespace
 /// Names longer than this would leave no room for what they name.
 constexpr std::size_t LONGEST_LABEL = 40;
 
-constexpr double FONT_SIZE = 12.0;
-constexpr double NOTE_SIZE = 10.0;
+/// In units of the picture. Drawing on Cairo gnuplot takes sizes for points of 4/3 units.
+constexpr double FONT_SIZE = 14.0;
+constexpr double NOTE_SIZE = 12.0;
+constexpr char const* CAIRO_FONT_SCALE = " fontscale 0.75";
 
 /// Colours that stay apart in print and for the colour-blind: M. Okabe and K. Ito, "Color Universal
 /// Design" (2008), from the darkest on.
@@ -154,13 +156,13 @@ std::string Terminal(Picture const& picture, double lettering)
                + " linewidth " + Text(picture.scale) + "\n";
     case PictureFormat::Pdf:
         return "set terminal pdfcairo noenhanced size " + Text(picture.width / 72.0) + "in,"
-               + Text(picture.height / 72.0) + "in background '#ffffff'" + font + " fontscale 1 linewidth "
+               + Text(picture.height / 72.0) + "in background '#ffffff'" + font + CAIRO_FONT_SCALE + " linewidth "
                + Text(2.0 * picture.scale) + "\n";
     case PictureFormat::Png:
         break;
     }
-    return "set terminal pngcairo noenhanced size " + size + " background '#ffffff'" + font + " linewidth "
-           + Text(picture.scale) + "\n";
+    return "set terminal pngcairo noenhanced size " + size + " background '#ffffff'" + font
+           + CAIRO_FONT_SCALE + " linewidth " + Text(picture.scale) + "\n";
 }
 } // namespace
 

@@ -29,7 +29,7 @@ PictureFormat FormatOf(std::string const& path);
 
 /// The picture that a file of `figure` holds. A figure of one panel is 720 by 480 units: PNG has two
 /// pixels for each, so that it stays sharp on a screen, and PDF 3/4 of a point, so that it fits on a
-/// page with letters of 9 points. A figure of many panels is larger.
+/// page. A figure of many panels is larger.
 Picture FilePicture(Figure const& figure, PictureFormat format);
 
 /// The commands that make gnuplot write `figure` on its standard output.
