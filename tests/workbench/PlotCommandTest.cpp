@@ -116,7 +116,7 @@ TEST_CASE("a plot that can't be made is one error with its place, and changes no
     CHECK(plot("d, \"x\", \"history\", \"/nowhere/at/all.png\"")
           == "Line 1, column 1: \"/nowhere/at/all.png\" cannot be written: No such file or directory");
     CHECK(desk.Failure("f = plot(d, \"x\", \"history\");")
-          == "Line 1, column 5: \"plot\" gives nothing that could have a name; expected plot(name, "
+          == "Line 1, column 5: \"plot\" gives nothing that could have a name; expected plot(dataset, "
              "\"variables\", \"type\", [\"path\"]);");
     {
         FakeGnuplot const none;

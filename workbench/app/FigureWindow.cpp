@@ -63,6 +63,7 @@ FigureWindow::FigureWindow(wxWindow* parent)
     splitter->SetMinimumPaneSize(120);
     splitter->SplitVertically(m_list, right, 220);
     SetMinSize(wxSize(560, 360));
+    Bind(wxEVT_CHAR_HOOK, &FigureWindow::OnCharHook, this);
     Bind(wxEVT_CLOSE_WINDOW,
          [this](wxCloseEvent& event)
          {
@@ -112,8 +113,30 @@ void FigureWindow::Add(std::shared_ptr<Figure const> const& figure, std::string 
     wxString const title = zenqo::ToWide(figure->title);
     m_list->Append(wxString::Format("%zu  %s", m_entries.size(), title));
     m_list->SetSelection(static_cast<int>(m_entries.size()) - 1);
+    m_list->EnsureVisible(m_list->GetSelection());
     BringUp();
     ShowChosen();
+}
+
+void FigureWindow::OnCharHook(wxKeyEvent& event)
+{
+    // After a selection by program GTK's own keys would begin where the user has clicked last.
+    int const last = static_cast<int>(m_entries.size()) - 1;
+    int chosen = m_list->GetSelection();
+    switch (event.GetModifiers() == wxMOD_NONE ? event.GetKeyCode() : WXK_NONE)
+    {
+    case WXK_UP: --chosen; break;
+    case WXK_DOWN: ++chosen; break;
+    case WXK_HOME: chosen = 0; break;
+    case WXK_END: chosen = last; break;
+    default: event.Skip(); return;
+    }
+    if (chosen >= 0 && chosen <= last && chosen != m_list->GetSelection())
+    {
+        m_list->SetSelection(chosen);
+        m_list->EnsureVisible(chosen);
+        ShowChosen();
+    }
 }
 
 void FigureWindow::BringUp()
@@ -148,24 +171,24 @@ void FigureWindow::CopyPicture()
 
 void FigureWindow::Export()
 {
-    int const chosen = m_list->GetSelection();
-    if (chosen == wxNOT_FOUND)
-        return;
     wxFileDialog dialog(this, "Export figure", wxEmptyString, "figure.png", FORMATS,
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
-    if (dialog.ShowModal() != wxID_OK)
-        return;
-    wxFileName path(dialog.GetPath());
+    if (dialog.ShowModal() == wxID_OK)
+        ExportTo(dialog.GetPath(), dialog.GetFilterIndex());
+}
+
+void FigureWindow::ExportTo(wxFileName path, int format)
+{
     if (!path.HasExt())
     {
-        path.SetExt(EXTENSIONS[dialog.GetFilterIndex()]);
-        // The dialog has asked about the name without the extension.
+        path.SetExt(EXTENSIONS[format]);
+        // The dialog has asked about the name without the ending.
         if (path.FileExists()
             && wxMessageBox(path.GetFullName() + " exists. Replace it?", "Export figure",
                             wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
             return;
     }
-    auto const& figure = *m_entries[static_cast<std::size_t>(chosen)].figure;
+    auto const& figure = *m_entries[static_cast<std::size_t>(m_list->GetSelection())].figure;
     m_exportPath = zenqo::ToNarrow(path.GetFullPath());
     try
     {

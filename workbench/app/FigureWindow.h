@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <wx/filename.h>
 #include <wx/frame.h>
 
 #include "workbench/app/FigureDrawing.h"
@@ -29,6 +30,11 @@ public:
     /// Comes to the front.
     void BringUp();
 
+    /// Writes the chosen figure to a file, in the format that the ending of `path` names. Without an
+    /// ending it is the one of `format`, 0 for PNG, 1 for SVG and 2 for PDF, and an existing file of
+    /// that name is replaced after a question only. The window tells how it went.
+    void ExportTo(wxFileName path, int format);
+
     bool IsEmpty() const { return m_entries.empty(); }
 
 private:
@@ -40,6 +46,7 @@ private:
 
     void MakeButtons(wxSizer* sizer);
     void ShowChosen();
+    void OnCharHook(wxKeyEvent& event);
     void CopyPicture();
     void Export();
     void Tell(std::string const& message);

@@ -1,9 +1,11 @@
 #include "workbench/plot/GnuplotScript.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <filesystem>
+#include <string_view>
 
 #include "workbench/engine/Error.h"
 #include "workbench/engine/Utf8.h"
@@ -42,20 +44,31 @@ std::string Text(double value)
     return text;
 }
 
-/// A text that gnuplot takes as it stands: between single quotes nothing has a meaning but they.
-std::string Quote(std::string text)
+/// A text that gnuplot takes as it stands: all but letters and digits is written as its bytes'
+/// octal codes, so that nothing in it can mean anything.
+std::string Quote(std::string const& text)
 {
-    if (CountCharacters(text) > LONGEST_LABEL)
-        text = std::string(FirstCharacters(text, LONGEST_LABEL - 3)) + "...";
-    std::string quoted = "'";
-    for (char const c : text)
+    std::string_view shown = text;
+    bool const tooLong = CountCharacters(text) > LONGEST_LABEL;
+    if (tooLong)
+        shown = FirstCharacters(text, LONGEST_LABEL - 3);
+    std::string quoted = "\"";
+    for (char const c : shown)
     {
-        bool const control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-        quoted += control ? ' ' : c;
-        if (c == '\'')
+        auto const byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte == 0x7F)
+            quoted += ' ';
+        else if (byte < 0x80 && std::isalnum(byte))
             quoted += c;
+        else
+        {
+            // A code that begins with 0 is read up to four digits, any other up to three.
+            quoted += byte < 0100 ? "\\0" : "\\";
+            for (int const shift : {6, 3, 0})
+                quoted += std::to_string(byte >> shift & 7);
+        }
     }
-    return quoted + "'";
+    return quoted + (tooLong ? "...\"" : "\"");
 }
 
 char const* ColourOf(Series const& series)

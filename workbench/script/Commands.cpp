@@ -234,7 +234,7 @@ std::vector<Command> const& Commands()
          "Replaces the whole workspace by that of a workspace file.",
          RunLoad},
         {"plot",
-         {{"name", Kind::DatasetName},
+         {{"dataset", Kind::DatasetName},
           {"variables", Kind::String},
           {"type", Kind::String},
           {"path", Kind::String, true}},

@@ -4,6 +4,6 @@
 
 namespace workbench
 {
-/// `plot(name, "variables", "type", ["path"]);`
+/// `plot(dataset, "variables", "type", ["path"]);`
 Outcome RunPlot(Context const& context, Arguments const& arguments);
 } // namespace workbench
