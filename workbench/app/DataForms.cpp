@@ -11,6 +11,7 @@
 #include "dialogs/data/SortDataDialog.h"
 #include "dialogs/data/SummarizeDataDialog.h"
 #include "workbench/app/CallText.h"
+#include "workbench/plot/Figure.h"
 
 namespace workbench
 {
@@ -112,13 +113,12 @@ Asked AskSummarize(wxWindow* parent, DatasetMap& datasets, int shown)
 
 Asked AskPlot(wxWindow* parent, DatasetMap& datasets, int shown)
 {
-    static char const* const TYPES[] = {"histogram", "scatter", "history", "density", "lines", "correlogram"};
     PlotDataDialog dialog(parent, &datasets);
     if (!ShowFor(dialog, shown))
         return {};
     return CallText("plot")
         .Name(dialog.GetDatasetName())
         .Text(Joined(dialog.GetVarNames()))
-        .Text(TYPES[dialog.GetPlotType()]).Done();
+        .Text(PlotTypeNames()[static_cast<std::size_t>(dialog.GetPlotType())]).Done();
 }
 } // namespace workbench
