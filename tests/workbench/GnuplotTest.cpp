@@ -215,7 +215,7 @@ TEST_CASE("a gnuplot that writes without end is ended")
 
 TEST_CASE("a gnuplot that says much is heard to its end, the last line kept")
 {
-    FakeGnuplot const talking("yes much to say | head -c 2000000 >&2; echo the end >&2; exit 1");
+    FakeGnuplot const talking("yes much to say | head -n 150000 >&2; echo the end >&2; exit 1");
     CHECK(Failure() == "gnuplot could not draw the figure: the end");
 }
 
