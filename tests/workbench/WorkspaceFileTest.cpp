@@ -80,7 +80,8 @@ bool Same(Workspace const& a, Workspace const& b)
                        [&](auto const& x, auto const& y) {
                            return x->drawNames == y->drawNames
                                   && SameMaps(x->results, y->results, matrices);
-                       });
+                       })
+           && a.structures == b.structures;
 }
 
 void AddMatrix(Workspace& workspace, std::string const& name, Eigen::MatrixXd const& matrix)
@@ -98,6 +99,11 @@ Workspace Example()
     wages->labelledColumns[2] = {{"ann \"q\"\n", "\xC3\xA9\xF0\x9F\x98\x80"},
                                  {"ann \"q\"\n", "\xC3\xA9\xF0\x9F\x98\x80", ""}};
     workspace.Assign("wages", wages);
+    auto const panel = workbench::MakeDataset({"\xC3\xA4ra", "firm"}, 2);
+    panel->data.rightCols(2) << 0, 7, 1, 7;
+    panel->labelledColumns[1] = {{"2001q1", "2001q2"}, {"2001q1", "2001q2"}};
+    workspace.Assign("panel", panel);
+    workspace.SetStructure("panel", {"\xC3\xA4ra", "yyyyqx", "firm"});
 
     Eigen::MatrixXd special(2, 3);
     special << std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),

@@ -34,7 +34,8 @@ void Workspace::NoteStored(std::string const& path)
 
 bool Workspace::SameObjects(Workspace const& other) const
 {
-    return datasets == other.datasets && matrices == other.matrices && models == other.models;
+    return datasets == other.datasets && matrices == other.matrices && models == other.models
+           && structures == other.structures;
 }
 
 Object Workspace::Find(std::string const& name) const
@@ -65,6 +66,21 @@ void Workspace::Remove(std::string const& name)
     datasets.erase(name);
     matrices.erase(name);
     models.erase(name);
+    structures.erase(name);
+}
+
+Structure Workspace::StructureOf(std::string const& name) const
+{
+    auto const found = structures.find(name);
+    return found == structures.end() ? Structure() : found->second;
+}
+
+void Workspace::SetStructure(std::string const& name, Structure const& structure)
+{
+    if (structure.IsEmpty())
+        structures.erase(name);
+    else
+        structures[name] = structure;
 }
 
 std::vector<std::string> Workspace::Names() const

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/Engine.h"
+#include "workbench/engine/Structure.h"
 
 namespace workbench
 {
@@ -26,23 +27,33 @@ struct Workspace
     MatrixMap matrices;
     ModelMap models;
 
+    /// The structures of the datasets that have one, by the datasets' names.
+    std::map<std::string, Structure> structures;
+
     std::string file;         ///< Where it was last loaded from or saved to; empty if nowhere.
     unsigned long stored = 0; ///< How often it was loaded or saved.
 
     /// Notes that `path` holds this workspace.
     void NoteStored(std::string const& path);
 
-    /// True if both hold the same objects under the same names. A changed object is a new object,
-    /// so this looks at no values.
+    /// True if both hold the same objects under the same names, and the datasets are structured
+    /// alike. A changed object is a new object, so this looks at no values.
     bool SameObjects(Workspace const& other) const;
 
     /// The object called `name`, or nothing.
     Object Find(std::string const& name) const;
 
-    /// Puts `object` under `name`; a dataset takes the name over.
+    /// Puts `object` under `name`; a dataset takes the name over, and has no structure.
     void Assign(std::string const& name, Object const& object);
 
     void Remove(std::string const& name);
+
+    /// The structure of the dataset `name`; an empty one if it has none.
+    Structure StructureOf(std::string const& name) const;
+
+    /// Gives the dataset `name` a structure that fits it, in place of the one it had; an empty one
+    /// takes that away.
+    void SetStructure(std::string const& name, Structure const& structure);
 
     /// All names, sorted.
     std::vector<std::string> Names() const;

@@ -63,7 +63,8 @@ json CheckedArray(std::vector<std::string> const& texts, std::string const& owne
     return array;
 }
 
-json DescribeDataset(std::string const& name, Dataset const& dataset, std::string const& file)
+json DescribeDataset(std::string const& name, Dataset const& dataset, Structure const& structure,
+                     std::string const& file)
 {
     auto const owner = "dataset " + Quoted(name);
     auto const columns = static_cast<std::size_t>(dataset.data.cols());
@@ -85,7 +86,16 @@ json DescribeDataset(std::string const& name, Dataset const& dataset, std::strin
                         {"levels", CheckedArray(labelled.levels, owner)},
                         {"labels", CheckedArray(labelled.labels, owner)}});
     }
-    return {{"name", Checked(name, owner)}, {"file", file}, {"variables", variables}, {"text", text}};
+    json entry = {
+        {"name", Checked(name, owner)}, {"file", file}, {"variables", variables}, {"text", text}};
+    if (!structure.IsEmpty())
+    {
+        Progress silent;
+        CheckStructure(dataset, structure, silent);
+        entry["structure"] = {
+            {"time", structure.time}, {"format", structure.format}, {"group", structure.group}};
+    }
+    return entry;
 }
 
 /// Hands what libzip writes to an AtomicFile. libzip calls it through a C function, which no
@@ -485,7 +495,10 @@ LabelledColumn ReadLabels(json const& entry, Dataset& dataset, int& column)
 
 std::shared_ptr<Dataset> ReadDataset(json const& entry, Archive& archive)
 {
-    CheckedKeys(entry, {"name", "file", "variables", "text"});
+    if (entry.contains("structure"))
+        CheckedKeys(entry, {"name", "file", "variables", "text", "structure"});
+    else
+        CheckedKeys(entry, {"name", "file", "variables", "text"});
     auto dataset = std::make_shared<Dataset>();
     dataset->data = archive.ReadMatrix(Text(entry.at("file")));
     for (auto const& variable : Texts(entry, "variables"))
@@ -500,6 +513,29 @@ std::shared_ptr<Dataset> ReadDataset(json const& entry, Archive& archive)
             throw Damage("its manifest has text twice for one column");
     }
     return dataset;
+}
+
+/// Gives the datasets of `workspace` the structures of which their entries tell.
+void ReadStructures(json const& entries, Workspace& workspace)
+{
+    for (auto const& entry : entries)
+    {
+        if (!entry.contains("structure"))
+            continue;
+        auto const& told = CheckedKeys(entry.at("structure"), {"time", "format", "group"});
+        Structure const structure{Text(told.at("time")), Text(told.at("format")), Text(told.at("group"))};
+        auto const name = Text(entry.at("name"));
+        try
+        {
+            Progress silent;
+            CheckStructure(*workspace.datasets.at(name), structure, silent);
+        }
+        catch (Error const& error)
+        {
+            throw Damage("the structure of the dataset " + Quoted(name) + ": " + error.what());
+        }
+        workspace.SetStructure(name, structure);
+    }
 }
 
 std::shared_ptr<Eigen::MatrixXd> ReadMatrix(json const& entry, Archive& archive)
@@ -556,6 +592,7 @@ Workspace ReadWorkspace(Archive& archive)
     each("datasets", ReadDataset);
     each("matrices", ReadMatrix);
     each("models", ReadModel);
+    ReadStructures(ArrayAt(manifest, "datasets"), workspace);
     if (!archive.Exhausted())
         throw Damage("it holds entries of which its manifest does not tell");
     return workspace;
@@ -575,7 +612,7 @@ void SaveWorkspace(Workspace const& workspace, std::string const& path, Progress
     for (auto const& [name, dataset] : workspace.datasets)
     {
         auto const file = contents.Add(EntryName("datasets", datasets.size()), dataset->data);
-        datasets.push_back(DescribeDataset(name, *dataset, file));
+        datasets.push_back(DescribeDataset(name, *dataset, workspace.StructureOf(name), file));
     }
 
     json matrices = json::array();

@@ -99,6 +99,7 @@ Outcome RunLoad(Context const& context, Arguments const& arguments)
 Outcome RunPrint(Context const& context, Arguments const& arguments)
 {
     Print(arguments.Text(0), arguments.AnyObject(0), context.output);
+    PrintStructure(arguments.Text(0), context.workspace.StructureOf(arguments.Text(0)), context.output);
     return {};
 }
 
@@ -256,6 +257,14 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Puts the observations of a dataset in the order of variables.",
          RunSort},
+        {"structure",
+         {{"dataset", Kind::DatasetName},
+          {"time", Kind::String},
+          {"format", Kind::String},
+          {"group", Kind::String}},
+         Naming::Never,
+         "Tells which variables of a dataset are its time and its groups.",
+         RunStructure},
         {"summarize",
          {{"dataset", Kind::DatasetName}, {"variables", Kind::String}, {"rows", Kind::String, true}},
          Naming::Never,

@@ -74,6 +74,7 @@ struct Outcome
     Object result;                                        ///< Goes under the statement's name.
     std::vector<std::pair<std::string, Object>> assigned; ///< Further objects by name.
     std::vector<std::string> removed;                     ///< Names that go.
+    std::vector<std::pair<std::string, Structure>> structures; ///< Of datasets, when all that is done.
     std::optional<Workspace> workspace;                   ///< Takes the place of all that was there.
     std::optional<std::string> stored;                    ///< The file that now holds the workspace.
 };

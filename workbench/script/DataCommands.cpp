@@ -1,5 +1,6 @@
 #include "workbench/script/DataCommands.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "workbench/engine/Expression.h"
@@ -28,7 +29,37 @@ Position PlaceIn(Arguments const& arguments, std::size_t index, std::size_t offs
     place.column += 1 + static_cast<int>(CountCharacters(before));
     return place;
 }
+
+/// Puts `made` in the place of the dataset `name`. It keeps the structure, unless that rests on one
+/// of the variables `touched`.
+Outcome Replace(Context const& context, std::string const& name, std::shared_ptr<Dataset> const& made,
+                std::vector<std::string> const& touched)
+{
+    Outcome outcome;
+    outcome.assigned.emplace_back(name, made);
+    auto const structure = context.workspace.StructureOf(name);
+    auto const rest = std::find_if(touched.begin(), touched.end(), [&](std::string const& variable)
+                                   { return structure.RestsOn(variable); });
+    if (rest == touched.end())
+        outcome.structures.emplace_back(name, structure);
+    else
+        context.output.Warning("The dataset " + Quoted(name) + " has lost its structure, which rested on the "
+                               + "variable " + Quoted(*rest) + ".");
+    return outcome;
+}
 } // namespace
+
+void PrintStructure(std::string const& name, Structure const& structure, Output& output)
+{
+    if (structure.IsEmpty())
+        return;
+    std::string text = "\nStructure of " + name + ": ";
+    if (!structure.time.empty())
+        text += "time variable " + structure.time + " (" + structure.format + ")";
+    if (!structure.group.empty())
+        text += (structure.time.empty() ? "" : ", ") + ("group variable " + structure.group);
+    output.Text(text + "\n");
+}
 
 Outcome RunCreate(Context const& context, Arguments const& arguments)
 {
@@ -44,9 +75,7 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
     {
         throw ScriptError(error.what(), PlaceIn(arguments, 2, error.offset));
     }
-    Outcome outcome;
-    outcome.assigned.emplace_back(owner, WithVariable(*dataset, name, computed.values, context.progress));
-
+    auto const made = WithVariable(*dataset, name, computed.values, context.progress);
     std::string text = "\n" + owner + "." + name + ": "
                        + Count(dataset->data.rows(), "observation", "observations") + ", "
                        + std::to_string(computed.missing) + " missing";
@@ -58,24 +87,35 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
                                + Count(computed.undefined, "observation", "observations")
                                + " in which its variables have one: an operation is not defined there, as "
                                  "0/0 or the logarithm of a negative number.");
-    return outcome;
+    return Replace(context, owner, made, {name});
 }
 
 Outcome RunDrop(Context const& context, Arguments const& arguments)
 {
-    Outcome outcome;
-    outcome.assigned.emplace_back(
-        arguments.Text(0),
-        WithoutVariables(*arguments.DatasetAt(0), arguments.Names(1), context.progress));
-    return outcome;
+    auto const names = arguments.Names(1);
+    auto const made = WithoutVariables(*arguments.DatasetAt(0), names, context.progress);
+    return Replace(context, arguments.Text(0), made, names);
 }
 
 Outcome RunSort(Context const& context, Arguments const& arguments)
 {
     auto const dataset = arguments.DatasetAt(0);
     auto const keys = ColumnsOf(*dataset, arguments.Names(1));
+    return Replace(context, arguments.Text(0), Sorted(*dataset, keys, context.progress), {});
+}
+
+Outcome RunStructure(Context const& context, Arguments const& arguments)
+{
+    auto const& name = arguments.Text(0);
+    Structure structure{arguments.Text(1), arguments.Text(2), arguments.Text(3)};
+    CheckStructure(*arguments.DatasetAt(0), structure, context.progress);
+    if (structure.time.empty())
+        structure.format.clear();
+    if (structure.IsEmpty())
+        context.output.Text("\n" + name + " has no structure\n");
+    PrintStructure(name, structure, context.output);
     Outcome outcome;
-    outcome.assigned.emplace_back(arguments.Text(0), Sorted(*dataset, keys, context.progress));
+    outcome.structures.emplace_back(name, structure);
     return outcome;
 }
 

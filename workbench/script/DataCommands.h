@@ -10,6 +10,10 @@ namespace workbench
 Outcome RunCreate(Context const& context, Arguments const& arguments);
 Outcome RunDrop(Context const& context, Arguments const& arguments);
 Outcome RunSort(Context const& context, Arguments const& arguments);
+Outcome RunStructure(Context const& context, Arguments const& arguments);
 Outcome RunSummarize(Context const& context, Arguments const& arguments);
 ///@}
+
+/// Prints one line on the structure of the dataset `name`, or nothing if it is empty.
+void PrintStructure(std::string const& name, Structure const& structure, Output& output);
 } // namespace workbench

@@ -43,6 +43,8 @@ void Apply(Outcome&& outcome, std::optional<std::string> const& target, Workspac
         workspace.Assign(name, object);
     if (target)
         workspace.Assign(*target, outcome.result);
+    for (auto const& [name, structure] : outcome.structures)
+        workspace.SetStructure(name, structure);
     if (outcome.stored)
         workspace.NoteStored(*outcome.stored);
 }
@@ -105,7 +107,12 @@ void Interpreter::Execute(Statement const& statement)
         outcome = command.run({m_workspace, m_output, m_progress}, {call->arguments, m_workspace});
     }
     else
-        outcome.result = Evaluate(std::get<Argument>(statement.value), m_workspace);
+    {
+        auto const& argument = std::get<Argument>(statement.value);
+        outcome.result = Evaluate(argument, m_workspace);
+        if (argument.kind == Argument::Kind::Name)
+            outcome.structures.emplace_back(*statement.target, m_workspace.StructureOf(argument.text));
+    }
     Apply(std::move(outcome), statement.target, m_workspace);
 }
 } // namespace workbench
