@@ -367,6 +367,23 @@ TEST_CASE("a file that is no workspace is one clear error")
         return withManifest(Manifest("", "{\"name\": \"d\", \"file\": \"m.npy\", \"variables\": ["
                                              + variables + "], \"text\": [" + text + "]}"));
     };
+    auto const structured = [&](std::string const& structure)
+    {
+        return forged({{"d.npy", Array(2, 2, Bytes({1, 1, 2001, 2002.5}))},
+                       {"workspace.json",
+                        Manifest("", "{\"name\": \"d\", \"file\": \"d.npy\", \"variables\": [\"c\", "
+                                     "\"year\"], \"text\": [], \"structure\": "
+                                         + structure + "}")}});
+    };
+    CHECK(structured("null") == DAMAGED + "its manifest is malformed");
+    CHECK(structured("{\"time\": \"year\", \"format\": \"index\"}") == DAMAGED + "its manifest is malformed");
+    CHECK(structured("{\"time\": \"year\", \"format\": \"index\", \"group\": 1}")
+          == DAMAGED + "its manifest has no text where one is expected");
+    CHECK(structured("{\"time\": \"\", \"format\": \"\", \"group\": \"firm\"}")
+          == DAMAGED + "the structure of the dataset \"d\": the dataset has no variable \"firm\"");
+    CHECK(structured("{\"time\": \"year\", \"format\": \"index\", \"group\": \"\"}")
+          == DAMAGED + "the structure of the dataset \"d\": the variable \"year\" does not fit the time format "
+                       "\"index\": row 2 has 2002.5");
     CHECK(dataset("\"a\", \"b\"", "")
           == DAMAGED + "its manifest has not as many variable names as there are columns");
     std::string const column = "{\"column\": 0, \"levels\": [], \"labels\": []}";
