@@ -62,7 +62,8 @@ double checksum = 0.0; ///< Where results go, so that no compiler leaves the wor
 double Expression(DatasetMap const& datasets, std::string const& expression)
 {
     workbench::Progress progress;
-    return Seconds([&] { checksum += workbench::Compute(expression, "d", datasets, progress).values[ROWS / 2]; });
+    return Seconds(
+        [&] { checksum += workbench::Compute(expression, "d", datasets, progress).values[ROWS / 2]; });
 }
 
 void MeasureCreate(Table& table)
@@ -79,9 +80,9 @@ void MeasureCreate(Table& table)
     auto const column = [&](Eigen::Index index) { return dataset->data.col(index).array(); };
     std::string const plainText = "(d.x1 - d.x2) .* d.x3 / 2 + sqrt(d.x1 ^ 2 + d.x2 ^ 2)";
     std::string const functionsText = "log(d.x1) + exp(-d.x2) .* d.x3";
-    auto const write = [&](auto&& values)
-    {
-        values = (column(1) - column(2)) * column(3) / 2 + (column(1).square() + column(2).square()).sqrt();
+    auto const write = [&](auto&& values) {
+        values
+            = (column(1) - column(2)) * column(3) / 2 + (column(1).square() + column(2).square()).sqrt();
     };
     auto const writePlain = [&]
     {
@@ -116,7 +117,8 @@ void MeasureCreate(Table& table)
     table.Compare(plain, [&] { return Expression(datasets, plainText); }, writePlain);
     table.Compare(functions, [&] { return Expression(datasets, functionsText); }, writeFunctions);
     table.Compare(
-        copied, [&] { return Statement(dataset, "create(d, \"y\", \"" + plainText + "\");"); }, writeCopy);
+        copied, [&] { return Statement(dataset, "create(d, \"y\", \"" + plainText + "\");"); },
+        writeCopy);
     table.Compare(
         whole, [&] { return Statement(dataset, "create(d, \"y\", \"" + functionsText + "\");"); },
         writeFunctions);
@@ -173,7 +175,8 @@ void MeasureSummarize(Table& table)
                     for (Eigen::Index column = 1; column < dataset->data.cols(); ++column)
                     {
                         Eigen::VectorXd values = dataset->data.col(column);
-                        auto const quarter = [&](Eigen::Index k) { return values.begin() + k * ROWS / 4; };
+                        auto const quarter
+                            = [&](Eigen::Index k) { return values.begin() + k * ROWS / 4; };
                         std::nth_element(values.begin(), quarter(2), values.end());
                         std::nth_element(values.begin(), quarter(1), quarter(2));
                         std::nth_element(quarter(2) + 1, quarter(3), values.end());

@@ -125,8 +125,9 @@ TEST_CASE("the functions")
 TEST_CASE("a missing value is carried through whatever is done with it")
 {
     for (auto const* const expression :
-         {"d.x ^ 0", "1 ^ d.x", "d.x == d.x", "d.x != d.x", "d.x < 1", "ones(d.x)", "-d.x", "0 * d.x", "exp(d.x)",
-          "sqrt(d.x ^ 2)", "log(d.x ^ 2)", "(d.x > 0) * 0", "d.x - d.x", "e.z / d.x", "d.x ^ 2"})
+         {"d.x ^ 0", "1 ^ d.x", "d.x == d.x", "d.x != d.x", "d.x < 1", "ones(d.x)", "-d.x", "0 * d.x",
+          "exp(d.x)", "sqrt(d.x ^ 2)", "log(d.x ^ 2)", "(d.x > 0) * 0", "d.x - d.x", "e.z / d.x",
+          "d.x ^ 2"})
     {
         INFO(expression);
         DataDesk desk;
@@ -142,15 +143,18 @@ TEST_CASE("where an operation is not defined the value is missing, and the outpu
 {
     DataDesk desk;
     Fill(desk);
-    auto const warned = [&](std::string const& expression, std::string const& count, std::string const& text)
+    auto const warned
+        = [&](std::string const& expression, std::string const& count, std::string const& text)
     {
         INFO(expression);
         desk.output.warnings.clear();
-        CHECK(desk.Run("create(d, \"v\", \"" + expression + "\");") == "\nd.v: 4 observations, " + text + "\n");
+        CHECK(desk.Run("create(d, \"v\", \"" + expression + "\");")
+              == "\nd.v: 4 observations, " + text + "\n");
         CHECK(desk.output.warnings
-              == std::vector<std::string>{"The expression has no value in " + count
-                                          + " in which its variables have one: an operation is not defined "
-                                            "there, as 0/0 or the logarithm of a negative number."});
+              == std::vector<std::string>{
+                  "The expression has no value in " + count
+                  + " in which its variables have one: an operation is not defined "
+                    "there, as 0/0 or the logarithm of a negative number."});
     };
     warned("log(d.x)", "1 observation", "2 missing");
     warned("sqrt(-e.z)", "4 observations", "4 missing");
@@ -172,7 +176,8 @@ TEST_CASE("what is beyond all numbers is infinite, and the output tells how many
     Expect("1 / d.y", {0.1, INF, 1.0 / 30.0, 2});
     DataDesk desk;
     Fill(desk);
-    CHECK(desk.Run("create(d, \"v\", \"exp(1000 * d.x)\");") == "\nd.v: 4 observations, 1 missing, 2 infinite\n");
+    CHECK(desk.Run("create(d, \"v\", \"exp(1000 * d.x)\");")
+          == "\nd.v: 4 observations, 1 missing, 2 infinite\n");
     CHECK(desk.output.warnings.empty());
     // Infinity less infinity is not defined, and compares as it should.
     Expect("1 / d.y - 1 / d.y", {0, NA, 0, 0});
@@ -210,35 +215,53 @@ TEST_CASE("a variable is made behind the others or replaced in its place")
 
 TEST_CASE("what is wrong with an expression is told with its place, and nothing changes")
 {
-    CHECK(Refusal("") == "Line 1, column 17: expected a number, a variable, a function or \"(\", but found its end");
-    CHECK(Refusal("  ") == "Line 1, column 19: expected a number, a variable, a function or \"(\", but found its end");
-    CHECK(Refusal("d.y +") == "Line 1, column 22: expected a number, a variable, a function or \"(\", but found its end");
-    CHECK(Refusal("d.y d.x") == "Line 1, column 21: expected an operator or the end of the expression, but found \"d\"");
+    CHECK(Refusal("")
+          == "Line 1, column 17: expected a number, a variable, a function or \"(\", but found its end");
+    CHECK(Refusal("  ")
+          == "Line 1, column 19: expected a number, a variable, a function or \"(\", but found its end");
+    CHECK(Refusal("d.y +")
+          == "Line 1, column 22: expected a number, a variable, a function or \"(\", but found its end");
+    CHECK(Refusal("d.y d.x")
+          == "Line 1, column 21: expected an operator or the end of the expression, but found \"d\"");
     CHECK(Refusal("(d.y") == "Line 1, column 21: expected an operator or \")\", but found its end");
-    CHECK(Refusal("d.y)") == "Line 1, column 20: expected an operator or the end of the expression, but found \")\"");
-    CHECK(Refusal("d.y = 1") == "Line 1, column 21: expected an operator or the end of the expression, but found \"=\"");
-    CHECK(Refusal("d.y & 1") == "Line 1, column 21: expected an operator or the end of the expression, but found \"&\"");
-    CHECK(Refusal("1 < 2 < 3") == "Line 1, column 23: a comparison that is compared again stands in parentheses");
+    CHECK(Refusal("d.y)")
+          == "Line 1, column 20: expected an operator or the end of the expression, but found \")\"");
+    CHECK(Refusal("d.y = 1")
+          == "Line 1, column 21: expected an operator or the end of the expression, but found \"=\"");
+    CHECK(Refusal("d.y & 1")
+          == "Line 1, column 21: expected an operator or the end of the expression, but found \"&\"");
+    CHECK(Refusal("1 < 2 < 3")
+          == "Line 1, column 23: a comparison that is compared again stands in parentheses");
     CHECK(Refusal("1.2.3") == "Line 1, column 17: expected a number, but found \"1.2.3\"");
     CHECK(Refusal("2d.y") == "Line 1, column 17: expected a number, but found \"2d.y\"");
     CHECK(Refusal("1e999")
-          == "Line 1, column 17: the number \"1e999\" is beyond what can be stored, about 1e-308 to 1e308 in size");
-    CHECK(Refusal(".") == "Line 1, column 17: expected a number, a variable, a function or \"(\", but found \".\"");
-    CHECK(Refusal("y + 1")
-          == "Line 1, column 17: a variable is written with its dataset, as d.y, but \"y\" stands alone");
-    CHECK(Refusal("1 + d.") == "Line 1, column 21: a variable is written with its dataset, as d.d, but \"d\" stands alone");
+          == "Line 1, column 17: the number \"1e999\" is beyond what can be stored, about 1e-308 to "
+             "1e308 in size");
+    CHECK(Refusal(".")
+          == "Line 1, column 17: expected a number, a variable, a function or \"(\", but found \".\"");
+    CHECK(
+        Refusal("y + 1")
+        == "Line 1, column 17: a variable is written with its dataset, as d.y, but \"y\" stands alone");
+    CHECK(
+        Refusal("1 + d.")
+        == "Line 1, column 21: a variable is written with its dataset, as d.d, but \"d\" stands alone");
     CHECK(Refusal("sin(d.y)")
           == "Line 1, column 17: there is no function \"sin\"; the functions are: exp, log, ones, sqrt");
-    CHECK(Refusal("exp()") == "Line 1, column 21: expected a number, a variable, a function or \"(\", but found \")\"");
-    CHECK(Refusal("exp d.y") == "Line 1, column 17: a variable is written with its dataset, as d.exp, but \"exp\" stands alone");
+    CHECK(Refusal("exp()")
+          == "Line 1, column 21: expected a number, a variable, a function or \"(\", but found \")\"");
+    CHECK(Refusal("exp d.y")
+          == "Line 1, column 17: a variable is written with its dataset, as d.exp, but \"exp\" stands "
+             "alone");
     CHECK(Refusal("1 + f.y") == "Line 1, column 21: there is no dataset \"f\"");
     CHECK(Refusal("d.Y") == "Line 1, column 17: the dataset \"d\" has no variable \"Y\"");
     CHECK(Refusal("d.constant") == "Line 1, column 17: the dataset \"d\" has no variable \"constant\"");
     CHECK(Refusal("1 + d.t") == "Line 1, column 21: the variable d.t holds text");
-    CHECK(Refusal("s.z + d.y") == "Line 1, column 17: the dataset \"s\" has 2 observations, and \"d\" has 4");
+    CHECK(Refusal("s.z + d.y")
+          == "Line 1, column 17: the dataset \"s\" has 2 observations, and \"d\" has 4");
     // Columns count characters.
     CHECK(Refusal("e.\xC3\xA4u\xC3\x9F + \xE2\x82\xAC")
-          == "Line 1, column 25: a variable is written with its dataset, as d.\xE2\x82\xAC, but \"\xE2\x82\xAC\" "
+          == "Line 1, column 25: a variable is written with its dataset, as d.\xE2\x82\xAC, but "
+             "\"\xE2\x82\xAC\" "
              "stands alone");
     CHECK(Refusal("d.y \xC3\x97 2").find("Line 1, column 21: expected an operator") == 0);
 
@@ -255,7 +278,8 @@ TEST_CASE("an expression that is nested without end is refused")
         std::string expression;
         for (int i = 0; i < 100000; ++i)
             expression += piece;
-        CHECK(Refusal(expression + "1").find(": the expression is more than 200 levels deep") != std::string::npos);
+        CHECK(Refusal(expression + "1").find(": the expression is more than 200 levels deep")
+              != std::string::npos);
     }
     // A long one is not a deep one.
     std::string sum = "1";
@@ -269,9 +293,9 @@ TEST_CASE("a variable that cannot be made is refused")
 {
     DataDesk desk;
     Fill(desk);
-    std::string const rule =
-        " cannot be the name of a variable: it may have letters, digits and underscores, and does not begin with "
-        "a digit";
+    std::string const rule = " cannot be the name of a variable: it may have letters, digits and "
+                             "underscores, and does not begin with "
+                             "a digit";
     CHECK(desk.Failure("create(d, \"\", \"1\");") == "Line 1, column 1: \"\"" + rule);
     CHECK(desk.Failure("create(d, \"1a\", \"1\");") == "Line 1, column 1: \"1a\"" + rule);
     CHECK(desk.Failure("create(d, \"a b\", \"1\");") == "Line 1, column 1: \"a b\"" + rule);
@@ -283,9 +307,10 @@ TEST_CASE("a variable that cannot be made is refused")
     desk.Run("m = 1;");
     CHECK(desk.Failure("create(m, \"v\", \"1\");")
           == "Line 1, column 8: expected the name of a dataset, but \"m\" is none");
-    CHECK(desk.Failure("w = create(d, \"v\", \"1\");")
-          == "Line 1, column 5: \"create\" gives nothing that could have a name; expected create(dataset, "
-             "\"name\", \"expression\");");
+    CHECK(
+        desk.Failure("w = create(d, \"v\", \"1\");")
+        == "Line 1, column 5: \"create\" gives nothing that could have a name; expected create(dataset, "
+           "\"name\", \"expression\");");
     CHECK(desk.output.text.empty());
 }
 
@@ -328,7 +353,8 @@ namespace
 struct Tree
 {
     std::string text;
-    int strength; ///< Of the outermost operator: 0 comparison, 1 sum, 2 product, 3 sign, 4 power, 5 none.
+    int strength; ///< Of the outermost operator: 0 comparison, 1 sum, 2 product, 3 sign, 4 power, 5
+                  ///< none.
     std::function<double(Eigen::Index)> value;
 };
 
@@ -376,7 +402,8 @@ private:
     Tree Leaf()
     {
         auto const column = static_cast<Eigen::Index>(1 + Pick(3));
-        return {"d.x" + std::to_string(column), 5, [this, column](Eigen::Index i) { return m_data(i, column); }};
+        return {"d.x" + std::to_string(column), 5,
+                [this, column](Eigen::Index i) { return m_data(i, column); }};
     }
 
     Tree Function(Tree const& operand)
@@ -420,10 +447,11 @@ private:
             {"==", 0, 1, 1, [](double a, double b) { return a != a || b != b ? NA : double(a == b); }},
             {"!=", 0, 1, 1, [](double a, double b) { return a != a || b != b ? NA : double(a != b); }}};
         auto const& chosen = operators[Pick(std::size(operators))];
-        return {Wrapped(left, chosen.left) + Blank() + chosen.text + Blank() + Wrapped(right, chosen.right),
-                chosen.strength,
-                [f = left.value, g = right.value, value = chosen.value](Eigen::Index i)
-                { return value(f(i), g(i)); }};
+        return {
+            Wrapped(left, chosen.left) + Blank() + chosen.text + Blank() + Wrapped(right, chosen.right),
+            chosen.strength, [f = left.value, g = right.value, value = chosen.value](Eigen::Index i) {
+                return value(f(i), g(i));
+            }};
     }
 
     std::mt19937 m_random;

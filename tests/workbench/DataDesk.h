@@ -15,7 +15,8 @@ inline bool SameBits(Eigen::MatrixXd const& a, Eigen::MatrixXd const& b)
 {
     return a.rows() == b.rows() && a.cols() == b.cols()
            && (a.size() == 0
-               || std::memcmp(a.data(), b.data(), static_cast<std::size_t>(a.size()) * sizeof(double)) == 0);
+               || std::memcmp(a.data(), b.data(), static_cast<std::size_t>(a.size()) * sizeof(double))
+                      == 0);
 }
 
 inline bool SameBits(Dataset const& a, Dataset const& b)

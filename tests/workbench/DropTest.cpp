@@ -58,11 +58,14 @@ TEST_CASE("variables that cannot be dropped are told, and none is")
     CHECK(desk.Failure("drop(d, \"A\");") == "Line 1, column 1: the dataset has no variable \"A\"");
     CHECK(desk.Failure("drop(d, \"constant\");")
           == "Line 1, column 1: the dataset has no variable \"constant\"");
-    CHECK(desk.Failure("drop(d, \"\xC3\xA9\");") == "Line 1, column 1: the dataset has no variable \"\xC3\xA9\"");
+    CHECK(desk.Failure("drop(d, \"\xC3\xA9\");")
+          == "Line 1, column 1: the dataset has no variable \"\xC3\xA9\"");
     CHECK(desk.Failure("drop(d, \"a b a\");") == "Line 1, column 1: \"a\" is given twice");
-    CHECK(desk.Failure("drop(d, \"u a t b\");") == "Line 1, column 1: a dataset keeps at least one variable");
+    CHECK(desk.Failure("drop(d, \"u a t b\");")
+          == "Line 1, column 1: a dataset keeps at least one variable");
     CHECK(desk.Failure("drop(d, \"a\", \"b\");")
-          == "Line 1, column 1: \"drop\" does not take 3 arguments; expected drop(dataset, \"variables\");");
+          == "Line 1, column 1: \"drop\" does not take 3 arguments; expected drop(dataset, "
+             "\"variables\");");
     desk.workspace.Assign("none", workbench::MakeDataset({}, 2));
     CHECK(desk.Failure("drop(none, \"a\");") == "Line 1, column 1: the dataset has no variable \"a\"");
 }
@@ -83,7 +86,8 @@ TEST_CASE("dropping can be stopped")
     for (desk.meter.stopAt = 1; desk.meter.stopAt <= 4; ++desk.meter.stopAt)
     {
         desk.meter.fractions.clear();
-        CHECK(desk.Failure("drop(d, \"a\");") == "Line 1, column 1: interrupted; the statement changed nothing");
+        CHECK(desk.Failure("drop(d, \"a\");")
+              == "Line 1, column 1: interrupted; the statement changed nothing");
     }
     CHECK(desk.meter.begun.size() == static_cast<std::size_t>(desk.meter.ended));
 }

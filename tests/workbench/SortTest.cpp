@@ -33,7 +33,8 @@ std::vector<double> Numbers(Dataset const& dataset)
 }
 } // namespace
 
-TEST_CASE("observations are sorted by several keys, equal ones stay in their order, missing ones come last")
+TEST_CASE(
+    "observations are sorted by several keys, equal ones stay in their order, missing ones come last")
 {
     using Order = std::vector<double>;
     DataDesk desk;
@@ -76,7 +77,8 @@ TEST_CASE("all columns, labels and levels follow the order, and the old object s
 TEST_CASE("all numbers have their place: infinities, both zeros, the smallest and the largest")
 {
     auto const d = workbench::MakeDataset({"x", "n"}, 10);
-    d->data.col(1) << NA, 1e308, INF, 0.0, -0.0, -4.9e-324, 4.9e-324, -INF, std::copysign(NA, -1.0), -1e308;
+    d->data.col(1) << NA, 1e308, INF, 0.0, -0.0, -4.9e-324, 4.9e-324, -INF, std::copysign(NA, -1.0),
+        -1e308;
     d->data.col(2).setLinSpaced(1, 10);
     DataDesk desk;
     desk.workspace.Assign("d", d);
@@ -99,7 +101,8 @@ TEST_CASE("random sorts are those of the standard library, bit for bit")
         for (Eigen::Index i = 0; i < rows; ++i)
         {
             d->data(i, 1) = random() % 10 == 0 ? NA : static_cast<double>(random() % 7) - 3;
-            d->data(i, 2) = std::ldexp(static_cast<double>(random()) - 2e9, static_cast<int>(random() % 2000) - 1000);
+            d->data(i, 2) = std::ldexp(static_cast<double>(random()) - 2e9,
+                                       static_cast<int>(random() % 2000) - 1000);
             auto const level = random() % text.levels.size();
             text.labels.push_back(text.levels[level]);
             d->data(i, 3) = level == 0 ? NA : static_cast<double>(level);
@@ -165,7 +168,8 @@ TEST_CASE("what cannot be sorted by is told, and nothing changes")
     CHECK(desk.Failure("sort(d, \"constant\");")
           == "Line 1, column 1: the dataset has no variable \"constant\"");
     CHECK(desk.Failure("sort(d);")
-          == "Line 1, column 1: \"sort\" does not take 1 argument; expected sort(dataset, \"variables\");");
+          == "Line 1, column 1: \"sort\" does not take 1 argument; expected sort(dataset, "
+             "\"variables\");");
     CHECK(desk.Failure("sort(d, x);")
           == "Line 1, column 9: expected a string in double quotes as the variables in sort(dataset, "
              "\"variables\"); but found the name \"x\"");
@@ -194,7 +198,8 @@ TEST_CASE("a long sort reports its progress and can be stopped")
     large->labelledColumns[2] = {{"a"}, std::vector<std::string>(100000, "a")};
     desk.workspace.Assign("large", large);
     desk.Run("copy = large; sort(copy, \"t x\");");
-    CHECK(desk.meter.begun == std::vector<std::string>{"Sorting the observations", "Copying the dataset"});
+    CHECK(desk.meter.begun
+          == std::vector<std::string>{"Sorting the observations", "Copying the dataset"});
     CHECK(std::is_sorted(desk["copy"].data.col(1).begin(), desk["copy"].data.col(1).end()));
     auto const reports = static_cast<int>(desk.meter.fractions.size());
     CHECK(reports >= 12);

@@ -125,7 +125,10 @@ private:
         Reader& m_reader;
     };
 
-    [[noreturn]] void Fail(std::string const& message) const { throw ExpressionError(message, m_offset); }
+    [[noreturn]] void Fail(std::string const& message) const
+    {
+        throw ExpressionError(message, m_offset);
+    }
 
     char Peek(std::size_t ahead = 0) const
     {
@@ -272,8 +275,8 @@ private:
             return;
         }
         m_offset = begin;
-        Fail("a variable is written with its dataset, as " + m_name + "." + name + ", but " + Quoted(name)
-             + " stands alone");
+        Fail("a variable is written with its dataset, as " + m_name + "." + name + ", but "
+             + Quoted(name) + " stands alone");
     }
 
     void Variable(std::string const& datasetName, std::string const& name, std::size_t begin)
@@ -496,7 +499,8 @@ private:
         auto& left = m_stack[m_top - 1];
         auto const right = m_stack[m_top];
         auto const block = [&](Operand const& o) { return ConstValues(o.values, m_count); };
-        auto const repeated = [&](Operand const& o) { return Eigen::ArrayXd::Constant(m_count, o.number); };
+        auto const repeated
+            = [&](Operand const& o) { return Eigen::ArrayXd::Constant(m_count, o.number); };
         if (!left.values && !right.values)
         {
             double value;

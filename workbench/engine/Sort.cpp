@@ -44,18 +44,13 @@ std::uint64_t RankOf(double value)
     return (bits & sign) != 0 ? ~bits : bits | sign;
 }
 
-std::string_view LabelAt(LabelledColumn const& column, std::size_t row)
-{
-    return row < column.labels.size() ? std::string_view(column.labels[row]) : std::string_view();
-}
-
 /// The places of the labels among all different ones; a missing label has the last.
 Ranks RankLabels(LabelledColumn const& column, std::size_t rows, ProgressScope& scope)
 {
     std::unordered_map<std::string_view, std::uint64_t> ranks;
     for (std::size_t row = 0; row < rows; ++row)
     {
-        ranks.emplace(LabelAt(column, row), 0);
+        ranks.emplace(LabelAt(column, static_cast<Eigen::Index>(row)), 0);
         if (row % REPORT_EVERY == 0)
             scope.Update(0.0);
     }
@@ -67,7 +62,7 @@ Ranks RankLabels(LabelledColumn const& column, std::size_t rows, ProgressScope& 
         ranks[labels[i]] = labels[i].empty() ? LAST : i;
     Ranks result(rows);
     for (std::size_t row = 0; row < rows; ++row)
-        result[row] = ranks[LabelAt(column, row)];
+        result[row] = ranks[LabelAt(column, static_cast<Eigen::Index>(row))];
     return result;
 }
 
@@ -78,7 +73,8 @@ Ranks RankColumn(Dataset const& dataset, Eigen::Index column, ProgressScope& sco
     if (labelled != dataset.labelledColumns.end())
         return RankLabels(labelled->second, rows, scope);
     Ranks ranks(rows);
-    std::transform(dataset.data.col(column).begin(), dataset.data.col(column).end(), ranks.begin(), RankOf);
+    std::transform(dataset.data.col(column).begin(), dataset.data.col(column).end(), ranks.begin(),
+                   RankOf);
     return ranks;
 }
 
@@ -94,7 +90,8 @@ using Items = std::vector<Item>;
 void Distribute(Items& items, Items& other, ProgressScope& scope, double from, double to)
 {
     std::array<std::array<std::size_t, BUCKETS>, DIGITS> counts{};
-    auto const digit = [](std::uint64_t rank, int place) { return (rank >> (place * DIGIT_BITS)) % BUCKETS; };
+    auto const digit
+        = [](std::uint64_t rank, int place) { return (rank >> (place * DIGIT_BITS)) % BUCKETS; };
     for (auto const& item : items)
         for (int place = 0; place < DIGITS; ++place)
             ++counts[static_cast<std::size_t>(place)][digit(item.rank, place)];
@@ -147,7 +144,7 @@ LabelledColumn Gathered(LabelledColumn const& column, std::vector<Eigen::Index> 
     LabelledColumn gathered{column.levels, {}};
     gathered.labels.reserve(rows.size());
     for (auto const row : rows)
-        gathered.labels.emplace_back(LabelAt(column, static_cast<std::size_t>(row)));
+        gathered.labels.emplace_back(LabelAt(column, row));
     return gathered;
 }
 } // namespace

@@ -45,8 +45,8 @@ int DaysIn(int year, int month)
 
 bool IsQuarter(std::string_view text)
 {
-    return text.size() == 6 && Digits(text, 0, 4) >= 0 && (text[4] == 'q' || text[4] == 'Q') && text[5] >= '1'
-           && text[5] <= '4';
+    return text.size() == 6 && Digits(text, 0, 4) >= 0 && (text[4] == 'q' || text[4] == 'Q')
+           && text[5] >= '1' && text[5] <= '4';
 }
 
 bool IsMonthNumber(int month) { return month >= 1 && month <= 12; }
@@ -75,21 +75,15 @@ struct TextFormat
     bool (*fits)(std::string_view);
 };
 
-constexpr TextFormat TEXT_FORMATS[] = {
-    {"yyyyqx", "2001q4", IsQuarter}, {"yyyymxx", "2001m12", IsMonth}, {"yyyy/mm/dd", "2001/12/31", IsDay}};
-
-/// The text of an observation of a column of text; empty if it is missing.
-std::string_view LabelAt(LabelledColumn const& column, Eigen::Index row)
-{
-    auto const index = static_cast<std::size_t>(row);
-    return index < column.labels.size() ? std::string_view(column.labels[index]) : std::string_view();
-}
+constexpr TextFormat TEXT_FORMATS[] = {{"yyyyqx", "2001q4", IsQuarter},
+                                       {"yyyymxx", "2001m12", IsMonth},
+                                       {"yyyy/mm/dd", "2001/12/31", IsDay}};
 
 /// Throws an Error that begins with `message` and names the rows for which `isBad`; `describe` gives
 /// what stands in one.
 template <class IsBad, class Describe>
-void RefuseRows(Eigen::Index rows, std::string const& message, IsBad const& isBad, Describe const& describe,
-                ProgressScope& scope)
+void RefuseRows(Eigen::Index rows, std::string const& message, IsBad const& isBad,
+                Describe const& describe, ProgressScope& scope)
 {
     std::string named;
     std::size_t bad = 0;
@@ -118,13 +112,15 @@ void CheckIndex(Dataset const& dataset, std::string const& name, ProgressScope& 
     auto const values = dataset.data.col(column);
     RefuseRows(
         dataset.data.rows(), "the variable " + Quoted(name) + " does not fit the time format \"index\"",
-        [&](Eigen::Index row) { return !std::isfinite(values[row]) || values[row] != std::floor(values[row]); },
+        [&](Eigen::Index row)
+        { return !std::isfinite(values[row]) || values[row] != std::floor(values[row]); },
         [&](Eigen::Index row)
         { return std::isnan(values[row]) ? "no value" : zenqo::FormatNumber(values[row]); },
         scope);
 }
 
-void CheckText(Dataset const& dataset, std::string const& name, TextFormat const& format, ProgressScope& scope)
+void CheckText(Dataset const& dataset, std::string const& name, TextFormat const& format,
+               ProgressScope& scope)
 {
     auto const column = ColumnOf(dataset, name);
     if (!HoldsText(dataset, column))
@@ -159,8 +155,10 @@ void CheckGroup(Dataset const& dataset, std::string const& name, ProgressScope& 
     bool const isText = labelled != dataset.labelledColumns.end();
     RefuseRows(
         dataset.data.rows(), "the group variable " + Quoted(name) + " must have a value in every row",
-        [&](Eigen::Index row)
-        { return isText ? LabelAt(labelled->second, row).empty() : std::isnan(dataset.data(row, column)); },
+        [&](Eigen::Index row) {
+            return isText ? LabelAt(labelled->second, row).empty()
+                          : std::isnan(dataset.data(row, column));
+        },
         [](Eigen::Index) { return std::string("none"); }, scope);
 }
 } // namespace
@@ -185,7 +183,8 @@ void CheckStructure(Dataset const& dataset, Structure const& structure, Progress
         throw Error("there is no time format " + Quoted(structure.format)
                     + "; the time formats are: index, yyyyqx, yyyymxx, yyyy/mm/dd");
     if (!structure.time.empty() && structure.time == structure.group)
-        throw Error("the variable " + Quoted(structure.time) + " cannot tell both the time and the group");
+        throw Error("the variable " + Quoted(structure.time)
+                    + " cannot tell both the time and the group");
     ProgressScope scope(progress, "Checking the structure");
     if (!structure.time.empty())
         CheckTime(dataset, structure, scope);

@@ -45,8 +45,8 @@ void Moments(std::vector<double> const& values, Summary& summary)
     }
     summary.mean = static_cast<double>(rough + rest / count);
     if (values.size() > 1)
-        summary.deviation =
-            static_cast<double>(std::sqrt(std::max(0.0L, squares - rest * rest / count) / (count - 1.0L)));
+        summary.deviation = static_cast<double>(
+            std::sqrt(std::max(0.0L, squares - rest * rest / count) / (count - 1.0L)));
 }
 
 /// The quartile number `quarter`, from 1 to 3. Values before the place `from` are the smallest ones;
@@ -56,7 +56,8 @@ double Quartile(std::vector<double>& values, std::size_t quarter, std::size_t& f
     auto const place = (values.size() - 1) * quarter;
     auto const below = place / 4;
     auto const share = static_cast<double>(place % 4) / 4.0;
-    auto const at = [&](std::size_t index) { return values.begin() + static_cast<std::ptrdiff_t>(index); };
+    auto const at
+        = [&](std::size_t index) { return values.begin() + static_cast<std::ptrdiff_t>(index); };
     std::nth_element(at(from), at(below), values.end());
     from = below;
     auto const low = values[below];
@@ -90,7 +91,8 @@ std::vector<Summary> Summarize(Dataset const& dataset, std::vector<Eigen::Index>
             if (!std::isnan(value) && (complete.empty() || complete[static_cast<std::size_t>(row)]))
                 values.push_back(value);
         }
-        Summary summary{static_cast<Eigen::Index>(values.size()), NONE, NONE, NONE, NONE, NONE, NONE, NONE};
+        Summary summary{
+            static_cast<Eigen::Index>(values.size()), NONE, NONE, NONE, NONE, NONE, NONE, NONE};
         if (!values.empty())
         {
             Moments(values, summary);

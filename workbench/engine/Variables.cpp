@@ -19,6 +19,12 @@ bool HoldsText(Dataset const& dataset, Eigen::Index column)
     return dataset.labelledColumns.count(static_cast<int>(column)) != 0;
 }
 
+std::string_view LabelAt(LabelledColumn const& column, Eigen::Index row)
+{
+    auto const index = static_cast<std::size_t>(row);
+    return index < column.labels.size() ? std::string_view(column.labels[index]) : std::string_view();
+}
+
 Eigen::Index FindVariable(Dataset const& dataset, std::string const& name)
 {
     auto const columns =
@@ -88,7 +94,8 @@ std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const&
             made->data.col(column) = values;
         else
             made->data.col(column) = dataset.data.col(column);
-        scope.Update(static_cast<std::uint64_t>(column + 1), static_cast<std::uint64_t>(made->data.cols()));
+        scope.Update(static_cast<std::uint64_t>(column + 1),
+                     static_cast<std::uint64_t>(made->data.cols()));
     }
     return made;
 }

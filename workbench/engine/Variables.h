@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <Eigen/Core>
@@ -16,6 +17,9 @@ class Progress;
 std::string VariableName(Dataset const& dataset, Eigen::Index column);
 
 bool HoldsText(Dataset const& dataset, Eigen::Index column);
+
+/// The label of observation `row`, from 0; empty if it is missing.
+std::string_view LabelAt(LabelledColumn const& column, Eigen::Index row);
 
 /// The column of the variable called `name`; 0, which is the hidden first column's, if there is none.
 Eigen::Index FindVariable(Dataset const& dataset, std::string const& name);

@@ -523,7 +523,8 @@ void ReadStructures(json const& entries, Workspace& workspace)
         if (!entry.contains("structure"))
             continue;
         auto const& told = CheckedKeys(entry.at("structure"), {"time", "format", "group"});
-        Structure const structure{Text(told.at("time")), Text(told.at("format")), Text(told.at("group"))};
+        Structure const structure{Text(told.at("time")), Text(told.at("format")),
+                                  Text(told.at("group"))};
         auto const name = Text(entry.at("name"));
         try
         {

@@ -16,11 +16,6 @@ namespace workbench
 {
 namespace
 {
-std::string Count(Eigen::Index count, char const* one, char const* many)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
 /// The place in the script of a byte of a string: the string stands on one line, behind its quote.
 Position PlaceIn(Arguments const& arguments, std::size_t index, std::size_t offset)
 {
@@ -43,8 +38,9 @@ Outcome Replace(Context const& context, std::string const& name, std::shared_ptr
     if (rest == touched.end())
         outcome.structures.emplace_back(name, structure);
     else
-        context.output.Warning("The dataset " + Quoted(name) + " has lost its structure, which rested on the "
-                               + "variable " + Quoted(*rest) + ".");
+        context.output.Warning("The dataset " + Quoted(name)
+                               + " has lost its structure, which rested on the variable "
+                               + Quoted(*rest) + ".");
     return outcome;
 }
 } // namespace
@@ -83,10 +79,10 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
         text += ", " + std::to_string(computed.infinite) + " infinite";
     context.output.Text(text + "\n");
     if (computed.undefined > 0)
-        context.output.Warning("The expression has no value in "
-                               + Count(computed.undefined, "observation", "observations")
-                               + " in which its variables have one: an operation is not defined there, as "
-                                 "0/0 or the logarithm of a negative number.");
+        context.output.Warning(
+            "The expression has no value in " + Count(computed.undefined, "observation", "observations")
+            + " in which its variables have one: an operation is not defined there, as "
+              "0/0 or the logarithm of a negative number.");
     return Replace(context, owner, made, {name});
 }
 
@@ -123,7 +119,8 @@ Outcome RunSummarize(Context const& context, Arguments const& arguments)
 {
     auto const rows = arguments.Count() < 3 ? "available" : arguments.Text(2);
     if (rows != "available" && rows != "complete")
-        throw ScriptError("expected \"available\" or \"complete\" as the rows, but found " + Quoted(rows),
+        throw ScriptError("expected \"available\" or \"complete\" as the rows, but found "
+                              + Quoted(rows),
                           arguments.PositionOf(2));
     auto const dataset = arguments.DatasetAt(0);
     auto const names = arguments.Names(1);

@@ -18,11 +18,6 @@ constexpr std::size_t PIECE = 64 * 1024;
 /// The lines of a printed dataset that are no observations: an empty one, the title, the names.
 constexpr int HEAD_LINES = 3;
 
-std::string Count(Eigen::Index count, char const* one, char const* many)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
 std::string Cell(Dataset const& dataset, Eigen::Index row, Eigen::Index column)
 {
     auto const labelled = dataset.labelledColumns.find(static_cast<int>(column));

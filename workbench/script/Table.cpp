@@ -8,6 +8,11 @@
 
 namespace workbench
 {
+std::string Count(Eigen::Index count, char const* one, char const* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
 std::string AsCell(std::string text)
 {
     std::replace_if(
@@ -23,7 +28,8 @@ std::string Pad(std::string const& cell, TableColumn const& column)
     return column.text ? cell + blanks : blanks + cell;
 }
 
-std::string FormatTable(std::vector<TableColumn> columns, std::vector<std::vector<std::string>> const& rows)
+std::string FormatTable(std::vector<TableColumn> columns,
+                        std::vector<std::vector<std::string>> const& rows)
 {
     for (std::size_t j = 0; j < columns.size(); ++j)
     {
