@@ -47,7 +47,7 @@ TEST_CASE("the examples of the language guide run")
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const examples = Examples(Guide());
-    CHECK(examples.size() == 15);
+    CHECK(examples.size() == 16);
     for (auto const& example : examples)
     {
         INFO(example);
