@@ -94,6 +94,58 @@ class DataMenu(workbench.TestCase):
         self.assertNotIn("ERROR", console)
         self.finish(bench)
 
+    def test_a_variable_is_plotted(self):
+        bench = self.imported()
+        desktop.key("ctrl+g")
+        dialog = bench.box("Plot Data")
+        self.choose_first()
+        self.run_dialog(dialog, "plot-data")
+        window = desktop.wait_window("macro: histogram of gdp - Figures - Zenqo Workbench", workbench.PATIENCE)
+        self.assertGreater(desktop.colours(window.photograph("plotted")), 30)
+        bench.window.activate()
+        bench.wait_console('\n >> plot(macro, "gdp", "histogram");\n')
+        self.finish(bench)
+
+    def test_work_done_in_dialogs_is_the_same_in_batch(self):
+        bench = self.imported()
+        desktop.key("ctrl+k")
+        dialog = bench.box("Create Variable")
+        dialog.click(*self.NAME)
+        desktop.type_text("lcpi")
+        dialog.click(*self.EXPRESSION)
+        desktop.type_text("log( macro.cpi )")
+        self.run_dialog(dialog, "create-logarithm")
+        bench.wait_console("create(")
+        desktop.key("alt+d", "s")
+        dialog = bench.box("Sort Data")
+        self.choose_first()
+        self.run_dialog(dialog, "sort-before-structure")
+        bench.wait_console("sort(")
+        desktop.key("alt+d", "t")
+        dialog = bench.box("Set Dataset Structure")
+        self.choose_first()
+        self.run_dialog(dialog, "set-structure")
+        console = bench.wait_console('\n >> structure(macro, "gdp", "index", "");\n')
+        self.assertNotIn("ERROR", console)
+
+        workspace = self.folder / "work.zws"
+        script = self.folder / "session.zqs"
+        desktop.key("ctrl+s")
+        bench.choose_file("Save workspace", workspace)
+        bench.wait_title("work.zws - Zenqo Workbench")
+        desktop.key("alt+s")
+        workbench.press_until(lambda: desktop.windows("Save session as script"), "s")
+        bench.choose_file("Save session as script", script)
+        desktop.wait_until(script.exists, script)
+        self.finish(bench)
+
+        saved = workspace.read_bytes()
+        workspace.unlink()
+        program = self.program("--batch", script)
+        self.assertEqual(program.wait_end(workbench.PATIENCE), 0)
+        # Equal workspaces make equal files: names, values, structure.
+        self.assertEqual(workspace.read_bytes(), saved)
+
     def test_a_dataset_is_cleared(self):
         bench = self.imported()
         desktop.key("alt+d", "a")
