@@ -434,6 +434,8 @@ TEST_CASE("equations notebook: a random walk loses nothing and invents nothing")
 {
     Stage stage;
     auto* const notebook = MakeNotebook(stage);
+    // Nothing is looked at, so nothing need be painted.
+    stage.Frame()->Hide();
     auto names = Variables();
     unsigned const seed = 20261121;
     std::mt19937 random(seed);
