@@ -6,8 +6,10 @@
 #include "common/CaretText.h"
 #include "common/Text.h"
 
+namespace
+{
 /// A key as it is drawn; what it types stands with its handler.
-struct Calculator::Key
+struct Key
 {
     char const* label;
     int width;
@@ -15,7 +17,7 @@ struct Calculator::Key
 };
 
 /// The three blocks, one after the other, each in reading order.
-std::array<Calculator::Key, 23> const Calculator::KEYS = {{
+constexpr std::array<Key, 23> KEYS = {{
     {"7", 35, &Calculator::OnSeven},
     {"8", 35, &Calculator::OnEight},
     {"9", 35, &Calculator::OnNine},
@@ -40,6 +42,7 @@ std::array<Calculator::Key, 23> const Calculator::KEYS = {{
     {"exp( )", 57, &Calculator::OnExp},
     {"log( )", 57, &Calculator::OnLog},
 }};
+} // namespace
 
 Calculator::Calculator(wxWindow* parent, wxTextCtrl* target) : wxPanel(parent), m_target(target)
 {

@@ -51,9 +51,6 @@ public:
     ///@}
 
 private:
-    struct Key;
-    static std::array<Key, 23> const KEYS;
-
     void Type(char const* text, long caret);
 
     wxTextCtrl* m_target;
