@@ -1,8 +1,6 @@
 #include "workbench/script/PlotCommands.h"
 
 #include <algorithm>
-#include <iterator>
-#include <sstream>
 
 #include "workbench/engine/Progress.h"
 #include "workbench/plot/Figure.h"
@@ -38,11 +36,9 @@ Outcome RunPlot(Context const& context, Arguments const& arguments)
     if (!toFile && !context.output.ShowsFigures())
         throw Error("there is no window that could show the figure; give the path of a file as the "
                     "fourth argument, which ends in .png, .svg or .pdf");
-    std::istringstream words(arguments.Text(1));
-    std::vector<std::string> const variables{std::istream_iterator<std::string>(words), {}};
 
     ProgressScope progress(context.progress, "Drawing the figure");
-    auto figure = MakeFigure(*arguments.DatasetAt(0), variables, type, context.progress);
+    auto figure = MakeFigure(*arguments.DatasetAt(0), arguments.Names(1), type, context.progress);
     figure.title = arguments.Text(0) + ": " + figure.title;
     auto const picture
         = toFile ? FilePicture(figure, format) : Picture{format, WINDOW_WIDTH, WINDOW_HEIGHT, 1.0};
