@@ -7,7 +7,8 @@
 
 #include <Eigen/Core>
 
-/// An estimated model, as far as the widgets look at it.
+/// An estimated model. The widgets look at `drawNames`, and at whether `results` has "logML"; all else
+/// is for engine and host.
 struct Model
 {
     /// The names of the quantities of which the model holds posterior draws, in its own order.
@@ -15,6 +16,22 @@ struct Model
 
     /// Named results. The widgets only ask whether "logML" (the log marginal likelihood) is there.
     std::map<std::string, Eigen::MatrixXd> results;
+
+    /// The posterior draws that were kept: a row for each draw, the chains one below the other, and a
+    /// column for each of `drawNames`.
+    Eigen::MatrixXd draws;
+
+    /// The number of chains, all of the same length; 0 without draws.
+    int chains = 0;
+
+    /// What kind of model it is, in the engine's words; empty if only the draws are known.
+    std::string type;
+
+    std::string dataset;   ///< The name of the dataset on which it was estimated; may be empty.
+    std::string dependent; ///< The dependent variable; may be empty.
+
+    /// The regressors in the order of their coefficients.
+    std::vector<std::string> independent;
 };
 
 /// The workspace's models by name.
