@@ -121,11 +121,11 @@ TEST_CASE("matrices print with tabs on the console and read back from a script f
     Eigen::MatrixXd matrix(2, 2);
     matrix << 1, 2.5, -3, 100;
     CHECK(Formatted(matrix, System::GLOBAL_IOFormatConsole) == "  1\t2.5\n -3\t100");
-    CHECK(Formatted(matrix, System::GLOBAL_IOFormatInput) == "[1, 2.5; -3, 100]");
+    CHECK(Formatted(matrix, System::GLOBAL_IOFormatInput) == "1, 2.5; -3, 100");
     CHECK(Formatted(Eigen::MatrixXd(Eigen::MatrixXd::Constant(1, 1, 0.1)), System::GLOBAL_IOFormatInput)
-          == "[0.10000000000000001]");
-    CHECK(Formatted(Eigen::MatrixXd(0, 0), System::GLOBAL_IOFormatInput) == "[]");
-    CHECK(Formatted(Eigen::VectorXd(Eigen::Vector2d(1, 2)), System::GLOBAL_IOFormatInput) == "[1; 2]");
+          == "0.10000000000000001");
+    CHECK(Formatted(Eigen::MatrixXd(0, 0), System::GLOBAL_IOFormatInput) == "");
+    CHECK(Formatted(Eigen::VectorXd(Eigen::Vector2d(1, 2)), System::GLOBAL_IOFormatInput) == "1; 2");
 }
 
 TEST_CASE("the globals have sensible values before anything is set")

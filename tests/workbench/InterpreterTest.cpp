@@ -7,6 +7,7 @@
 #include "workbench/Scratch.h"
 #include "workbench/engine/Workspace.h"
 #include "workbench/script/Interpreter.h"
+#include "workbench/script/Parser.h"
 
 using workbench::Interpreter;
 using Echo = workbench::Interpreter::Echo;
@@ -224,6 +225,34 @@ TEST_CASE("a command is used as its entry says")
         == "Line 1, column 5: \"load\" gives nothing that could have a name; expected load(\"path\");");
     CHECK(desk.Failure("__ZenqoEmptyDataset__ = [1];")
           == "Line 1, column 1: the name \"__ZenqoEmptyDataset__\" is kept for the program's own use");
+}
+
+TEST_CASE("options stand behind the arguments, each once")
+{
+    auto const statements = workbench::ParseScript(
+        "f(a, \"b\", \"point\"=\"mean\",\n\t\"W\"=[\t1, 2; 3, 4]\n\t, \"prefix\" = p, \"n\"=-3);");
+    REQUIRE(statements.size() == 1);
+    auto const& call = std::get<workbench::Call>(statements[0].value);
+    CHECK(call.arguments.size() == 2);
+    REQUIRE(call.options.size() == 4);
+    CHECK(call.options[0].key == "point");
+    CHECK(call.options[0].value.kind == workbench::Argument::Kind::String);
+    CHECK(call.options[0].value.text == "mean");
+    CHECK(call.options[1].key == "W");
+    CHECK(call.options[1].position.line == 2);
+    CHECK(call.options[1].value.matrix == (Eigen::MatrixXd(2, 2) << 1, 2, 3, 4).finished());
+    CHECK(call.options[2].value.kind == workbench::Argument::Kind::Name);
+    CHECK(call.options[2].value.text == "p");
+    CHECK(call.options[3].value.matrix(0, 0) == -3);
+
+    Desk desk;
+    CHECK(desk.Failure("help(\"a\"=1);") == "Line 1, column 6: \"help\" has no option \"a\"");
+    CHECK(desk.Failure("save(\"a\"=1, \"b\");")
+          == "Line 1, column 13: expected only options, \"key\"=value, behind the first one");
+    CHECK(desk.Failure("save(\"a\"=);")
+          == "Line 1, column 10: expected a string, a name, a number or a matrix, but found \")\"");
+    CHECK(desk.Failure("save(\"a\"=1);")
+          == "Line 1, column 1: \"save\" does not take 0 arguments; expected save(\"path\");");
 }
 
 TEST_CASE("a name that is not there is told with what is")

@@ -22,8 +22,9 @@ Eigen::VectorXd GLOBAL_Gibbs = (Eigen::VectorXd(5) << 20000, 10000, 1, 1, 42).fi
 Eigen::IOFormat GLOBAL_IOFormatConsole(6, 0, "\t", "\n", "", "", "", "");
 
 // 17 digits bring back every number to the last bit; Eigen's own "full precision" stops at 16.
+// The brackets around the matrix are written by whoever composes a fragment.
 Eigen::IOFormat GLOBAL_IOFormatInput(std::numeric_limits<double>::max_digits10, Eigen::DontAlignCols,
-                                     ", ", "; ", "", "", "[", "]");
+                                     ", ", "; ");
 
 std::string GLOBAL_DirectoryJAGS = zenqo::DEFAULT_STRING;
 std::string GLOBAL_DirectoryBUGS = zenqo::DEFAULT_STRING;

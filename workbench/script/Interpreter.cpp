@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "workbench/engine/Workspace.h"
-#include "workbench/script/Commands.h"
+#include "workbench/script/CallCheck.h"
 #include "workbench/script/Parser.h"
 
 namespace workbench
@@ -104,7 +104,7 @@ void Interpreter::Execute(Statement const& statement)
     if (auto const* call = std::get_if<Call>(&statement.value))
     {
         auto const& command = CheckCall(*call, statement.target.has_value());
-        outcome = command.run({m_workspace, m_output, m_progress}, {call->arguments, m_workspace});
+        outcome = command.run({m_workspace, m_output, m_progress}, {*call, m_workspace});
     }
     else
     {

@@ -1,6 +1,7 @@
 #include "workbench/script/Parser.h"
 
 #include <limits>
+#include <utility>
 
 #include "workbench/script/Lexer.h"
 
@@ -95,16 +96,29 @@ private:
     /// From the opening parenthesis to the closing one.
     Call Arguments(Token const& command)
     {
-        Call call{command.text, {}, command.position};
+        Call call{command.text, {}, {}, command.position};
         Advance();
         if (TakeIf(')'))
             return call;
         do
-            call.arguments.push_back(OneArgument("a string, a name, a number or a matrix"));
+            ArgumentOrOption(call);
         while (TakeIf(','));
         if (!TakeIf(')'))
             FailExpecting("\",\" or \")\" behind an argument of \"" + command.text + "\"");
         return call;
+    }
+
+    void ArgumentOrOption(Call& call)
+    {
+        auto const expected = "a string, a name, a number or a matrix";
+        auto argument = OneArgument(expected);
+        if (argument.kind == Argument::Kind::String && TakeIf('='))
+            call.options.push_back({argument.text, OneArgument(expected), argument.position});
+        else if (call.options.empty())
+            call.arguments.push_back(std::move(argument));
+        else
+            throw ScriptError("expected only options, \"key\"=value, behind the first one",
+                              argument.position);
     }
 
     Argument OneArgument(char const* expected)

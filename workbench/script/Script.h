@@ -47,11 +47,20 @@ struct Argument
     Position position;
 };
 
+/// A choice behind the arguments of a command, `"key"=value`.
+struct Option
+{
+    std::string key;
+    Argument value;
+    Position position; ///< Of the key.
+};
+
 /// A command with its arguments.
 struct Call
 {
     std::string command;
     std::vector<Argument> arguments;
+    std::vector<Option> options;
     Position position;
 };
 
