@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include <Eigen/Core>
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
@@ -20,6 +21,9 @@ inline std::string Joined(wxArrayString const& names)
         joined += (joined.empty() ? "" : " ") + Narrow(name);
     return joined;
 }
+
+/// A matrix as the script language writes it, each number with as few digits as bring it back.
+std::string MatrixText(Eigen::MatrixXd const& matrix);
 
 /// A call of the script language, composed argument by argument:
 ///
@@ -45,6 +49,20 @@ public:
         for (int const value : values)
             row += (row.empty() ? "" : ", ") + std::to_string(value);
         return Add("[" + row + "]");
+    }
+
+    /// An option, `"key"=value`.
+    ///@{
+    CallText& Option(std::string const& key, std::string const& value);
+    CallText& Option(std::string const& key, double value);
+    CallText& Option(std::string const& key, Eigen::MatrixXd const& value);
+    ///@}
+
+    /// A piece of script as a dialog composes it: options that begin with a comma, or nothing.
+    CallText& Options(std::string const& fragment)
+    {
+        m_text += fragment;
+        return *this;
     }
 
     /// The statement as a whole.

@@ -1,17 +1,13 @@
 #include "workbench/app/ModelForm.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
-#include <wx/stattext.h>
-#include <wx/textctrl.h>
 
-#include "engine/Functions.h"
 #include "modelspec/LagsPicker.h"
 #include "modelspec/PriorPicker.h"
 #include "modelspec/VariablePicker_YXS.h"
@@ -35,15 +31,6 @@ std::string DesignStatement(std::string const& name, std::string const& dataset,
     return (lags.empty() ? statement : statement.Row(lags)).Done();
 }
 
-/// The form's sizer, with `content` above the end that is still to come.
-wxSizer* Begin(wxDialog* form, wxSizer* content)
-{
-    auto* const sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(content, 1, wxEXPAND | wxLEFT | wxRIGHT, 8);
-    form->SetSizer(sizer);
-    return sizer;
-}
-
 wxSizer* Around(wxWindow* window)
 {
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
@@ -52,42 +39,11 @@ wxSizer* Around(wxWindow* window)
 }
 } // namespace
 
-FormEnd::FormEnd(wxDialog* form, wxSizer* sizer, wxString const& name, std::vector<Check> checks)
-    : m_form(form), m_checks(std::move(checks))
-{
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(new wxStaticText(form, wxID_ANY, "Name:"), 0, wxALIGN_CENTER_VERTICAL | wxRIGHT, 8);
-    m_name = new wxTextCtrl(form, wxID_ANY, name);
-    m_name->SetName("name");
-    row->Add(m_name, 1);
-    sizer->Add(row, 0, wxEXPAND | wxALL, 12);
-    sizer->Add(form->CreateSeparatedButtonSizer(wxOK | wxCANCEL), 0, wxEXPAND | wxALL, 8);
-    form->Bind(wxEVT_BUTTON, &FormEnd::OnAccept, this, wxID_OK);
-    sizer->SetSizeHints(form);
-    form->CentreOnParent();
-}
-
-std::string FormEnd::Name() const { return Narrow(m_name->GetValue()); }
-
-void FormEnd::OnAccept(wxCommandEvent& event)
-{
-    wxString problem = CheckID(Name()) ? wxString()
-                                       : wxString("The name must consist of letters, digits and underscores, "
-                                                  "and must not begin with a digit.");
-    for (Check const& check : m_checks)
-        if (problem.empty())
-            problem = check();
-    if (problem.empty())
-        event.Skip();
-    else
-        wxMessageBox(problem, m_form->GetTitle(), wxOK | wxICON_EXCLAMATION, m_form);
-}
-
 DesignForm::DesignForm(wxWindow* parent, DatasetMap* datasets)
     : wxDialog(parent, wxID_ANY, "Design Matrix", wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_variables(new VariablePicker_yX(this, datasets, LIST_HEIGHT)),
-      m_prior(this),
+      m_prior(this, CoefficientPrior::OfError::No),
       m_end(this,
             [this]
             {
@@ -97,7 +53,7 @@ DesignForm::DesignForm(wxWindow* parent, DatasetMap* datasets)
                 auto* const content = new wxBoxSizer(wxHORIZONTAL);
                 content->Add(m_variables, 1, wxEXPAND);
                 content->Add(side, 0, wxALL, 12);
-                return Begin(this, content);
+                return BeginForm(this, content);
             }(),
             "X",
             {[this]
@@ -177,7 +133,7 @@ SystemForm::SystemForm(wxWindow* parent, DatasetMap* datasets)
     : wxDialog(parent, wxID_ANY, "System of Equations", wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_variables(new VariablePicker_YXS(this, datasets, LIST_HEIGHT)),
-      m_end(this, Begin(this, Around(m_variables)), "X", {[this] { return FirstIncomplete(); }})
+      m_end(this, BeginForm(this, Around(m_variables)), "X", {[this] { return FirstIncomplete(); }})
 {
 }
 

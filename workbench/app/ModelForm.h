@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -8,6 +7,7 @@
 #include <wx/dialog.h>
 
 #include "engine/Dataset.h"
+#include "workbench/app/FormEnd.h"
 #include "workbench/app/PriorForm.h"
 
 class AdditionalPicker1;
@@ -15,31 +15,9 @@ class LagsPicker;
 class PriorPicker;
 class VariablePicker_YXS;
 class VariablePicker_yX;
-class wxTextCtrl;
 
 namespace workbench
 {
-/// A check that a form's input must pass: the words for the user if it doesn't, else empty.
-using Check = std::function<wxString()>;
-
-/// The lower part of a form: the field for the name of what it makes, and the buttons. OK makes
-/// `checks` in their order; the first that fails is shown, and the form stays open.
-class FormEnd
-{
-public:
-    FormEnd(wxDialog* form, wxSizer* sizer, wxString const& name, std::vector<Check> checks);
-
-    /// The name as it was typed, which is a legal one once the form was accepted.
-    std::string Name() const;
-
-private:
-    void OnAccept(wxCommandEvent& event);
-
-    wxDialog* m_form;
-    wxTextCtrl* m_name;
-    std::vector<Check> m_checks;
-};
-
 /// The form in which the variables of one equation are chosen, the lags of its dependent variable, and
 /// the prior of its coefficients.
 class DesignForm : public wxDialog

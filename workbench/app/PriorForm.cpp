@@ -1,14 +1,11 @@
 #include "workbench/app/PriorForm.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
-
 #include <wx/notebook.h>
 
 #include "modelspec/PriorDialog.h"
 #include "modelspec/PriorGrid.h"
 #include "modelspec/PriorGridSym.h"
+#include "workbench/app/CallText.h"
 
 namespace workbench
 {
@@ -16,27 +13,6 @@ namespace
 {
 constexpr int ID_DEFAULT = 6023; ///< The dialog's button "&Default".
 constexpr double PRECISION = 0.0001;
-
-/// A number as the script language writes it, with all its digits.
-std::string NumberText(double number)
-{
-    if (std::isnan(number))
-        return "nan";
-    if (std::isinf(number))
-        return number < 0 ? "-inf" : "inf";
-    std::array<char, 32> text;
-    auto const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    return {text.data(), end};
-}
-
-std::string MatrixText(Eigen::MatrixXd const& matrix)
-{
-    std::string text = "[";
-    for (Eigen::Index row = 0; row < matrix.rows(); ++row)
-        for (Eigen::Index col = 0; col < matrix.cols(); ++col)
-            text += (col > 0 ? ", " : row > 0 ? "; " : "") + NumberText(matrix(row, col));
-    return text + "]";
-}
 
 Eigen::MatrixXd DefaultPrecision(std::size_t count)
 {
@@ -48,9 +24,23 @@ Eigen::MatrixXd DefaultMean(std::size_t count)
 {
     return Eigen::MatrixXd::Zero(static_cast<Eigen::Index>(count), 1);
 }
+
+wxArrayString ErrorNames()
+{
+    wxArrayString names;
+    names.Add("shape");
+    names.Add("rate");
+    return names;
+}
+
+/// Says next to nothing: a mean of 1 and a variance of 1000.
+Eigen::MatrixXd DefaultError() { return Eigen::MatrixXd::Constant(2, 1, 0.001); }
 } // namespace
 
-CoefficientPrior::CoefficientPrior(wxWindow* owner) : m_owner(owner) {}
+CoefficientPrior::CoefficientPrior(wxWindow* owner, OfError ofError)
+    : m_owner(owner), m_ofError(ofError == OfError::Yes)
+{
+}
 
 void CoefficientPrior::Define(wxArrayString const& coefficients)
 {
@@ -65,17 +55,37 @@ std::string CoefficientPrior::Script(std::string const& name, wxArrayString cons
            + "_precision = " + MatrixText(m_precision->ReadFields()) + ";";
 }
 
+CallText& CoefficientPrior::AddOptions(CallText& call, wxArrayString const& coefficients)
+{
+    ShowFor(coefficients);
+    call.Option("mean", m_mean->ReadFields()).Option("precision", m_precision->ReadFields());
+    if (m_error)
+    {
+        auto const error = m_error->ReadFields();
+        call.Option("shape", error(0, 0)).Option("rate", error(1, 0));
+    }
+    return call;
+}
+
 void CoefficientPrior::MakeDialog()
 {
-    wxString title = "Prior of the Coefficients";
-    m_dialog = new PriorDialog(m_owner, title,
-                               "The coefficients are normal a priori. The precision matrix is the inverse of "
-                               "their covariance matrix.");
+    wxString title = m_ofError ? "Prior of the Parameters" : "Prior of the Coefficients";
+    wxString note = "The coefficients are normal a priori. The precision matrix is the inverse of their "
+                    "covariance matrix.";
+    if (m_ofError)
+        note += " The precision of the error, which is the inverse of its variance, has a gamma distribution "
+                "a priori; its mean is the shape divided by the rate.";
+    m_dialog = new PriorDialog(m_owner, title, note);
     auto* const pages = m_dialog->GetNotebook();
     m_mean = new PriorGrid(pages, {}, DefaultMean(0));
     m_precision = new PriorGridSym(pages, {}, DefaultPrecision(0));
     pages->AddPage(m_mean, "Mean", true);
     pages->AddPage(m_precision, "Precision");
+    if (m_ofError)
+    {
+        m_error = new PriorGrid(pages, ErrorNames(), DefaultError());
+        pages->AddPage(m_error, "Error");
+    }
     m_dialog->Bind(
         wxEVT_BUTTON, [this](wxCommandEvent&) { ShowDefault(); }, ID_DEFAULT);
 }
@@ -111,5 +121,7 @@ void CoefficientPrior::ShowDefault()
 {
     m_mean->RedrawGrid(m_coefficients, DefaultMean(m_coefficients.size()));
     m_precision->RedrawGrid(m_coefficients, DefaultPrecision(m_coefficients.size()));
+    if (m_error)
+        m_error->RedrawGrid(ErrorNames(), DefaultError());
 }
 } // namespace workbench
