@@ -3,6 +3,9 @@
 set(zenqo_public_classes
   console/MainTextCtrl
   console/ZenqoConsole
+  dialogs/analysis/CompareModelsDialog
+  dialogs/analysis/PlotDrawsDialog
+  dialogs/analysis/TestParametersDialog
   dialogs/data/ClearDatasetDialog
   dialogs/data/ClearVariableDialog
   dialogs/data/CreateVariableDialog
@@ -73,6 +76,7 @@ set(zenqo_private_sources
   common/DialogFrame.cpp
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
+  common/ExpressionBox.cpp
   common/GridSize.cpp
   common/LabelColours.cpp
   common/Lags.cpp
@@ -98,6 +102,7 @@ set(zenqo_private_sources
   common/Text.cpp
   common/TextLabel.cpp
   common/TransferButton.cpp
+  common/TypewriterFont.cpp
   common/VariableName.cpp
   common/Warning.cpp)
 

@@ -1,10 +1,10 @@
 #include "common/TransferButton.h"
 
 #include <wx/button.h>
-#include <wx/font.h>
 #include <wx/listbox.h>
 
 #include "common/Text.h"
+#include "common/TypewriterFont.h"
 
 namespace zenqo
 {
@@ -14,7 +14,7 @@ wxButton* MakeTransferButton(wxWindow* parent, wxListBox const* list, int width)
 {
     auto* const button
         = new wxButton(parent, wxID_ANY, MOVE_IN, wxDefaultPosition, wxSize(width, OneRow(list)), 0);
-    button->SetFont(wxFont(wxFontInfo(12).Family(wxFONTFAMILY_MODERN).FaceName("Courier 10 Pitch")));
+    button->SetFont(TypewriterFont(12));
     return button;
 }
 

@@ -3,9 +3,9 @@
 #include <iterator>
 
 #include <wx/choice.h>
-#include <wx/font.h>
 #include <wx/sizer.h>
 
+#include "common/TypewriterFont.h"
 #include "common/VariableRoles.h"
 #include "pickers/DatasetPicker.h"
 
@@ -28,7 +28,7 @@ wxChoice* MakeFormatChoice(wxWindow* parent)
     };
     auto* const choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                       static_cast<int>(std::size(formats)), formats);
-    choice->SetFont(wxFont(wxFontInfo(10).Family(wxFONTFAMILY_MODERN).FaceName("Courier 10 Pitch")));
+    choice->SetFont(zenqo::TypewriterFont(10));
     choice->SetSelection(0);
     return choice;
 }

@@ -6,6 +6,7 @@
 
 #include "common/Text.h"
 #include "common/TextLabel.h"
+#include "common/TypewriterFont.h"
 
 TextPicker::TextPicker(wxWindow* parent, wxString& example, int width, int height)
     : wxPanel(parent)
@@ -16,7 +17,7 @@ TextPicker::TextPicker(wxWindow* parent, wxString& example, int width, int heigh
     sizer->AddGrowableRow(0, 10);
     m_text = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxSize(width, height),
                             wxTE_MULTILINE | wxTE_RICH);
-    m_text->SetFont(wxFontInfo(10).Family(wxFONTFAMILY_MODERN).FaceName("Courier 10 Pitch"));
+    m_text->SetFont(zenqo::TypewriterFont(10));
     sizer->Add(m_text, 1, wxEXPAND | wxALL, 5);
 
     auto* const line = new wxFlexGridSizer(1, 2, 0, 0);

@@ -2,8 +2,8 @@
 
 #include <wx/textctrl.h>
 
-#include "common/CaretText.h"
 #include "common/DialogFrame.h"
+#include "common/ExpressionBox.h"
 #include "common/ListBoxItems.h"
 #include "common/RoleGrid.h"
 #include "common/Text.h"
@@ -19,18 +19,11 @@ CreateVariableDialog::CreateVariableDialog(wxWindow* parent, DatasetMap* dataset
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     auto* const box = zenqo::AddLabelledBox(this, sizer, "Select Dataset && Construct New Variable");
     auto* const inBox = box->GetStaticBox();
-    // The third row stays empty.
-    auto* const rows = new wxFlexGridSizer(3, 1, 0, 0);
-    box->Add(rows, 0, wxEXPAND, 5);
-
     m_dataset = new DatasetPicker(inBox);
-    auto* const row = new wxBoxSizer(wxVERTICAL);
-    row->Add(m_dataset, 0, wxEXPAND | wxTOP, 10);
-    rows->Add(row, 0, wxEXPAND);
-    auto* const columns = new wxFlexGridSizer(1, 2, 0, 0);
-    columns->Add(BuildVariables(inBox), 1, wxEXPAND, 5);
-    columns->Add(BuildFields(inBox), 1, wxEXPAND, 5);
-    rows->Add(columns, 1, wxEXPAND, 5);
+    auto const variables = zenqo::BuildNameColumn(inBox, "Variables in dataset");
+    m_variables = variables.list;
+    // The third row stays empty.
+    zenqo::LayOutExpressionBox(box, 3, m_dataset, variables.sizer, BuildFields(inBox));
 
     zenqo::AddFocusedButtonRow(this, sizer);
     zenqo::OfferKeys(m_dataset, *datasets);
@@ -40,16 +33,6 @@ CreateVariableDialog::CreateVariableDialog(wxWindow* parent, DatasetMap* dataset
     Bind(wxEVT_BUTTON, &CreateVariableDialog::OnButtonOk, this, wxID_OK);
     m_dataset->Bind(wxEVT_CHOICE, &CreateVariableDialog::OnDatasetChanged, this);
     m_move->Bind(wxEVT_BUTTON, &CreateVariableDialog::OnMoveButton, this);
-}
-
-wxFlexGridSizer* CreateVariableDialog::BuildVariables(wxWindow* parent)
-{
-    auto* const column = new wxFlexGridSizer(2, 1, 0, 0);
-    column->AddGrowableRow(1, 100);
-    zenqo::AddCaption(column, parent, "Variables in dataset");
-    m_variables = zenqo::MakeList(parent, wxSize(zenqo::LIST_WIDTH, -1), zenqo::LIST_OF_ONE);
-    column->Add(m_variables, 1, wxEXPAND | wxALL, 5);
-    return column;
 }
 
 wxFlexGridSizer* CreateVariableDialog::BuildFields(wxWindow* parent)
@@ -118,10 +101,5 @@ void CreateVariableDialog::OnDatasetChanged(wxCommandEvent&) { ShowVariables(); 
 
 void CreateVariableDialog::OnMoveButton(wxCommandEvent&)
 {
-    auto const selected = zenqo::SelectionsOf(m_variables);
-    if (selected.empty())
-        return;
-    wxString const name = zenqo::ToWide(GetDatasetName()) + "."
-                          + m_variables->GetString(static_cast<unsigned>(selected.front()));
-    zenqo::TypeAtCaret(m_expression, name, static_cast<long>(name.length()));
+    zenqo::TypeSelectedName(m_expression, GetDatasetName(), m_variables);
 }

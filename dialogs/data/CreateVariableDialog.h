@@ -50,7 +50,6 @@ public:
     void OnMoveButton(wxCommandEvent& event);
 
 private:
-    wxFlexGridSizer* BuildVariables(wxWindow* parent);
     wxFlexGridSizer* BuildFields(wxWindow* parent);
     void ShowVariables();
     wxString Complaint() const;
