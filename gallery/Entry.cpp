@@ -11,7 +11,8 @@ std::vector<Entry> AllEntries()
 {
     std::vector<Entry> all;
     for (auto&& entries : {ConsoleEntries(), PickerEntries(), ModelSpecEntries(), VariablePickerEntries(),
-                           EquationEntries(), DataDialogEntries(), PaneEntries()})
+                           EquationEntries(), DataDialogEntries(), AnalysisDialogEntries(),
+                           PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());
     return all;
 }

@@ -16,8 +16,11 @@ Stage::Stage(wxSize size)
 {
     m_frame->Show();
     Pump(20);
-    // While the window manager puts its decoration around the window, it is a few pixels small.
-    PumpUntil([this, size] { return m_frame->IsActive() && m_frame->GetSize() == size; }, 2000);
+    // While the window manager puts its decoration around the window, it is a few pixels small. After
+    // a dialog, which is decorated otherwise, it stays a few pixels large.
+    auto const isWhole = [&]
+    { return m_frame->GetSize().x >= size.x && m_frame->GetSize().y >= size.y; };
+    PumpUntil([&] { return m_frame->IsActive() && isWhole(); }, 2000);
 }
 
 Stage::~Stage()
