@@ -1,6 +1,8 @@
 #include "common/ExpressionBox.h"
 
+#include <wx/button.h>
 #include <wx/listbox.h>
+#include <wx/textctrl.h>
 
 #include "common/CaretText.h"
 #include "common/ListBoxItems.h"
@@ -32,6 +34,18 @@ wxFlexGridSizer* LayOutExpressionBox(wxSizer* box, int rows, wxWindow* picker, w
     columns->Add(fields, 1, wxEXPAND, 5);
     grid->Add(columns, 1, wxEXPAND, 5);
     return grid;
+}
+
+void AddExpressionField(wxFlexGridSizer* fields, wxString const& caption, wxButton* move,
+                        wxTextCtrl* field, int proportion)
+{
+    AddGap(fields);
+    AddCaption(fields, field->GetParent(), caption);
+    if (move)
+        fields->Add(move, 0, wxALL, 5);
+    else
+        AddGap(fields);
+    fields->Add(field, proportion, wxEXPAND | wxALL, 5);
 }
 
 void TypeSelectedName(wxTextCtrl* field, std::string const& owner, wxListBox const* names)

@@ -4,6 +4,7 @@
 
 #include <wx/sizer.h>
 
+class wxButton;
 class wxListBox;
 class wxTextCtrl;
 class wxWindow;
@@ -24,6 +25,11 @@ NameColumn BuildNameColumn(wxWindow* parent, wxString const& caption);
 /// fields for the expressions. Gives the grid of `rows` rows in which they stand, two of them taken.
 wxFlexGridSizer* LayOutExpressionBox(wxSizer* box, int rows, wxWindow* picker, wxSizer* names,
                                      wxSizer* fields);
+
+/// Adds `field` under its caption to `fields`, a grid of two columns. `move` stands at its left, if there
+/// is one.
+void AddExpressionField(wxFlexGridSizer* fields, wxString const& caption, wxButton* move,
+                        wxTextCtrl* field, int proportion);
 
 /// Writes "OWNER.NAME" at the caret of `field`, with the selected name, gives the field the keyboard
 /// and puts the caret behind it. Nothing happens if no name is selected.

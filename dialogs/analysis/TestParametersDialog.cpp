@@ -74,16 +74,10 @@ wxFlexGridSizer* TestParametersDialog::BuildFields(wxWindow* parent)
 
     auto* const fields = new wxFlexGridSizer(6, 2, 0, 0);
     fields->AddGrowableRow(2, 100);
-    zenqo::AddGap(fields);
-    zenqo::AddCaption(fields, parent, "Left-hand side expression");
-    fields->Add(m_upperMove, 0, wxALL, 5);
-    fields->Add(m_lhs, 1, wxEXPAND | wxALL, 5);
+    zenqo::AddExpressionField(fields, "Left-hand side expression", m_upperMove, m_lhs, 1);
     zenqo::AddGap(fields);
     fields->Add(m_operator, 0, wxALIGN_CENTRE | wxALL, 5);
-    zenqo::AddGap(fields);
-    zenqo::AddCaption(fields, parent, "Right-hand side expression");
-    fields->Add(m_lowerMove, 0, wxALL, 5);
-    fields->Add(m_rhs, 0, wxEXPAND | wxALL, 5);
+    zenqo::AddExpressionField(fields, "Right-hand side expression", m_lowerMove, m_rhs, 0);
     zenqo::AddGap(fields);
     fields->Add(m_keypad, 1, wxEXPAND | wxALL, 5);
     return fields;

@@ -45,14 +45,8 @@ wxFlexGridSizer* CreateVariableDialog::BuildFields(wxWindow* parent)
     m_keypad = new Calculator(parent, m_expression);
 
     auto* const fields = new wxFlexGridSizer(5, 2, 0, 0);
-    zenqo::AddGap(fields);
-    zenqo::AddCaption(fields, parent, "New variable name");
-    zenqo::AddGap(fields);
-    fields->Add(m_name, 1, wxEXPAND | wxALL, 5);
-    zenqo::AddGap(fields);
-    zenqo::AddCaption(fields, parent, "Expression for new variable");
-    fields->Add(m_move, 0, wxALL, 5);
-    fields->Add(m_expression, 0, wxEXPAND | wxALL, 5);
+    zenqo::AddExpressionField(fields, "New variable name", nullptr, m_name, 1);
+    zenqo::AddExpressionField(fields, "Expression for new variable", m_move, m_expression, 0);
     zenqo::AddGap(fields);
     fields->Add(m_keypad, 1, wxEXPAND | wxALL, 5);
     return fields;

@@ -6,7 +6,6 @@
 #include <wx/html/htmlcell.h>
 #include <wx/html/htmlwin.h>
 #include <wx/notebook.h>
-#include <wx/radiobox.h>
 #include <wx/radiobut.h>
 
 #include "dialogs/analysis/ModelChecks.h"
@@ -199,8 +198,7 @@ TEST_CASE("compare models dialog: the priors and the approximation")
 {
     CompareFixture fixture;
     auto* const sizer = fixture.dialog.GetSizer();
-    Placement const under{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5};
-    CHECK(PlacementOf(Item(sizer, 1)) == under);
+    CHECK(PlacementOf(Item(sizer, 1)) == Placement{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5});
     auto* const box = dynamic_cast<wxStaticBoxSizer*>(Item(sizer, 1)->GetSizer());
     REQUIRE(box);
     CHECK(box->GetOrientation() == wxHORIZONTAL);
@@ -210,15 +208,10 @@ TEST_CASE("compare models dialog: the priors and the approximation")
     CHECK(PlacementOf(Item(box, 0)) == Placement{3, wxEXPAND, 5});
 
     auto* const approximation = fixture.approximation;
-    CHECK(Item(sizer, 2)->GetWindow() == approximation);
-    CHECK(PlacementOf(Item(sizer, 2)) == under);
-    CHECK(approximation->GetLabel() == "Approximation of the log-ML");
-    REQUIRE(approximation->GetCount() == 2);
-    CHECK(approximation->GetString(0) == "Use the Lewis-Raftery approximation of the log-ML for all models");
-    CHECK(approximation->GetString(1) == "Use the Chib-Jeliazkov approximation of the log-ML if available");
-    CHECK(approximation->GetColumnCount() == 1);
-    CHECK(approximation->HasFlag(wxRA_SPECIFY_COLS));
-    CHECK(approximation->GetSelection() == 0);
+    CheckRadioBox(Item(sizer, 2), approximation, "Approximation of the log-ML",
+                  {"Use the Lewis-Raftery approximation of the log-ML for all models",
+                   "Use the Chib-Jeliazkov approximation of the log-ML if available"},
+                  1);
     CHECK(!fixture.dialog.GetCJ());
     approximation->SetSelection(1);
     CHECK(fixture.dialog.GetCJ());

@@ -1,7 +1,5 @@
 #include "dialogs/analysis/PlotDrawsDialog.h"
 
-#include <wx/radiobox.h>
-
 #include "dialogs/analysis/ModelChecks.h"
 #include "pickers/DrawsPicker.h"
 
@@ -47,22 +45,12 @@ TEST_CASE("plot draws dialog: layout")
 TEST_CASE("plot draws dialog: the types of plot")
 {
     PlotFixture fixture;
-    auto* const types = fixture.types;
-    auto* const sizer = fixture.dialog.GetSizer();
-    CHECK(Item(sizer, 1)->GetWindow() == types);
-    CHECK(PlacementOf(Item(sizer, 1)) == Placement{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5});
-    CHECK(types->GetLabel() == "Plot type");
-    REQUIRE(types->GetCount() == 5);
-    CHECK(types->GetString(0) == "Histogram              ");
-    CHECK(types->GetString(1) == "History                ");
-    CHECK(types->GetString(2) == "All plots in one figure");
-    CHECK(types->GetString(3) == "Kernel density         ");
-    CHECK(types->GetString(4) == "Correlogram (acf)      ");
+    CheckRadioBox(Item(fixture.dialog.GetSizer(), 1), fixture.types, "Plot type",
+                  {"Histogram              ", "History                ", "All plots in one figure",
+                   "Kernel density         ", "Correlogram (acf)      "},
+                  3);
     for (unsigned i = 0; i < 5; ++i)
-        CHECK(types->GetString(i).length() == 23);
-    CHECK(types->GetColumnCount() == 3);
-    CHECK(types->HasFlag(wxRA_SPECIFY_COLS));
-    CHECK(types->GetSelection() == 0);
+        CHECK(fixture.types->GetString(i).length() == 23);
 }
 
 TEST_CASE("plot draws dialog: every type wants a draw, and one is enough for every type")

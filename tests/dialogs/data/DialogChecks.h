@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/dialog.h>
+#include <wx/radiobox.h>
 #include <wx/statbox.h>
 
 #include "modelspec/RoleLayout.h"
@@ -46,6 +47,21 @@ inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label)
     CHECK(box->GetStaticBox()->GetLabel() == label);
     REQUIRE(box->GetItemCount() == 1);
     return Item(box, 0);
+}
+
+/// The box of items below the picker, of which the first is chosen.
+inline void CheckRadioBox(wxSizerItem const* item, wxRadioBox* box, wxString const& label,
+                          std::vector<wxString> const& items, unsigned columns)
+{
+    CHECK(item->GetWindow() == box);
+    CHECK(PlacementOf(item) == Placement{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5});
+    CHECK(box->GetLabel() == label);
+    REQUIRE(box->GetCount() == items.size());
+    for (unsigned i = 0; i < items.size(); ++i)
+        CHECK(box->GetString(i) == items[i]);
+    CHECK(box->GetColumnCount() == columns);
+    CHECK(box->HasFlag(wxRA_SPECIFY_COLS));
+    CHECK(box->GetSelection() == 0);
 }
 
 inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog)

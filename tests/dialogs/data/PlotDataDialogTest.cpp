@@ -1,7 +1,5 @@
 #include "dialogs/data/PlotDataDialog.h"
 
-#include <wx/radiobox.h>
-
 #include "dialogs/data/VariableDialogChecks.h"
 
 using namespace variable_dialog_checks;
@@ -42,22 +40,12 @@ TEST_CASE("plot dialog: layout")
     PlotFixture fixture;
     auto* const sizer = CheckLayout<PlotDataDialog>(
         fixture, "Plot Data", 3, "Select Dataset && Variables to Plot", 235, "Variables to Plot");
-    auto* const types = fixture.types;
-    CHECK(Item(sizer, 1)->GetWindow() == types);
-    CHECK(PlacementOf(Item(sizer, 1)) == Placement{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5});
-    CHECK(types->GetLabel() == "Plot type");
-    REQUIRE(types->GetCount() == 6);
-    CHECK(types->GetString(0) == "Histogram               ");
-    CHECK(types->GetString(1) == "Scatter plot            ");
-    CHECK(types->GetString(2) == "History                 ");
-    CHECK(types->GetString(3) == "Kernel density          ");
-    CHECK(types->GetString(4) == "X-Y lines               ");
-    CHECK(types->GetString(5) == "Correlogram (acf)       ");
+    CheckRadioBox(Item(sizer, 1), fixture.types, "Plot type",
+                  {"Histogram               ", "Scatter plot            ", "History                 ",
+                   "Kernel density          ", "X-Y lines               ", "Correlogram (acf)       "},
+                  3);
     for (unsigned i = 0; i < 6; ++i)
-        CHECK(types->GetString(i).length() == 24);
-    CHECK(types->GetColumnCount() == 3);
-    CHECK(types->HasFlag(wxRA_SPECIFY_COLS));
-    CHECK(types->GetSelection() == 0);
+        CHECK(fixture.types->GetString(i).length() == 24);
 }
 
 TEST_CASE("plot dialog: choosing variables")

@@ -1,7 +1,5 @@
 #include "dialogs/data/SummarizeDataDialog.h"
 
-#include <wx/radiobox.h>
-
 #include "dialogs/data/VariableDialogChecks.h"
 
 using namespace variable_dialog_checks;
@@ -12,17 +10,10 @@ TEST_CASE("summarize dialog: layout")
     auto* const sizer
         = CheckLayout(fixture, "Summarize Data", 3, "Select Dataset && Variables to Summarize", 235,
                       "Variables to Summarize");
-    auto* const options = Find<wxRadioBox>(&fixture.dialog);
-    CHECK(Item(sizer, 1)->GetWindow() == options);
-    CHECK(PlacementOf(Item(sizer, 1)) == Placement{0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5});
-    CHECK(options->GetLabel() == "Options");
-    REQUIRE(options->GetCount() == 2);
-    CHECK(options->GetString(0) == "Use all observartions available per variable");
-    CHECK(options->GetString(1)
-          == "Use only observartions without missing values for all selected variables");
-    CHECK(options->GetColumnCount() == 1);
-    CHECK(options->HasFlag(wxRA_SPECIFY_COLS));
-    CHECK(options->GetSelection() == 0);
+    CheckRadioBox(Item(sizer, 1), Find<wxRadioBox>(&fixture.dialog), "Options",
+                  {"Use all observartions available per variable",
+                   "Use only observartions without missing values for all selected variables"},
+                  1);
 }
 
 TEST_CASE("summarize dialog: choosing variables")
