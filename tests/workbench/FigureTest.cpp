@@ -50,7 +50,8 @@ constexpr PlotType ALL_TYPES[] = {PlotType::Histogram, PlotType::Scatter, PlotTy
 TEST_CASE("the types have the order of the dialog")
 {
     CHECK(PlotTypeNames()
-          == std::vector<std::string>{"histogram", "scatter", "history", "density", "lines", "correlogram"});
+          == std::vector<std::string>{"histogram", "scatter", "history", "density", "lines", "correlogram",
+                                      "all"});
     CHECK(static_cast<int>(PlotType::Correlogram) == 5);
 }
 
@@ -128,6 +129,17 @@ TEST_CASE("a history breaks where a value is left out")
     CHECK(panel.series[1].x == std::vector<double>{1, 3, 6});
     CHECK(figure.description == "gaps: 3 values, 1 missing, 2 infinite and left out\n");
     CHECK(Make({"x", "y", "gaps"}, PlotType::History).columns == 1);
+}
+
+TEST_CASE("all that is plotted of one variable goes into one figure")
+{
+    auto const figure = Make({"x", "y"}, PlotType::All);
+    CHECK(figure.title == "all plots of x, y");
+    CHECK(figure.columns == 4);
+    REQUIRE(figure.panels.size() == 8);
+    CHECK(figure.panels[1].xLabel == "Observation");
+    CHECK(Refusal(std::vector<std::string>(7, "x"), PlotType::All)
+          == "a figure of all types takes at most 6 variables, but 7 are given");
 }
 
 TEST_CASE("a long line has marks only where no line meets")

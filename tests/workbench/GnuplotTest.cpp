@@ -87,6 +87,12 @@ TEST_CASE("a figure of every type is a picture of the stated size with something
 
 TEST_CASE("a figure of many panels is larger")
 {
+    auto const all = Make(PlotType::All, {"a_b", "x"}, 1000);
+    auto const rows = ImageOf(Drawn(all, FilePicture(all, PictureFormat::Png)));
+    REQUIRE(rows.IsOk());
+    CHECK(rows.GetSize() == wxSize(2560, 960));
+    Keep(rows, "plot-all");
+
     std::vector<std::string> names;
     for (int i = 1; i <= 25; ++i)
         names.push_back("v" + std::to_string(i));

@@ -8,6 +8,7 @@
 #include "workbench/Recorder.h"
 #include "workbench/SampleFolder.h"
 #include "workbench/Scratch.h"
+#include "workbench/analysis/ModelMaking.h"
 #include "workbench/engine/Workspace.h"
 #include "workbench/script/Commands.h"
 #include "workbench/script/Interpreter.h"
@@ -37,6 +38,20 @@ std::vector<std::string> Examples(std::string const& guide)
     }
     return examples;
 }
+/// The estimated models of which the guide tells.
+void AddModels(workbench::Workspace& workspace)
+{
+    for (auto const* const name : {"ols", "small"})
+    {
+        Eigen::MatrixXd draws(8, 4);
+        draws.leftCols(3) << 5e4, 0.03, -0.5, 5.1e4, 0.04, -0.6, 4.9e4, 0.04, -0.4, 5e4, 0.05, -0.3, //
+            5e4, 0.05, -0.4, 5.2e4, 0.04, -0.7, 5e4, 0.03, -0.5, 4.8e4, 0.04, -0.4;
+        draws.col(3) << 600, 700, 650, 720, 610, 680, 690, 660;
+        auto const model = ModelOfDraws({"constant", "GNP", "UNEMP", "sigma"}, draws, 2);
+        model->results["logML"] = Eigen::RowVector2d(-120, -119);
+        workspace.Assign(name, model);
+    }
+}
 } // namespace
 
 TEST_CASE("the examples of the language guide run")
@@ -47,10 +62,11 @@ TEST_CASE("the examples of the language guide run")
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const examples = Examples(Guide());
-    CHECK(examples.size() == 16);
+    CHECK(examples.size() == 18);
     for (auto const& example : examples)
     {
         INFO(example);
+        AddModels(workspace);
         CHECK(interpreter.Run(example, workbench::Interpreter::Echo::None));
     }
     CHECK(output.errors.empty());

@@ -7,6 +7,7 @@
 #include "workbench/FakeGnuplot.h"
 #include "workbench/Recorder.h"
 #include "workbench/Scratch.h"
+#include "workbench/analysis/ModelMaking.h"
 #include "workbench/engine/Workspace.h"
 #include "workbench/plot/Figure.h"
 #include "workbench/script/Interpreter.h"
@@ -83,6 +84,23 @@ TEST_CASE("a plot without a path goes to the window, and keeps its numbers")
     CHECK(desk.output.pictures[0].compare(1, 3, "PNG") == 0);
 }
 
+TEST_CASE("the draws of a model are plotted like variables")
+{
+    Scratch const scratch;
+    Desk<Album> desk;
+    Eigen::MatrixXd draws(6, 1);
+    draws << 3, 1, 4, 1, 5, 9;
+    desk.workspace.Assign("m", ModelOfDraws({"beta[1]"}, draws, 2));
+    desk.workspace.Assign("bare", std::make_shared<Model>());
+    REQUIRE(desk.Run("plot(m, \"beta[1]\", \"all\"); clear(m);"));
+    REQUIRE(desk.output.figures.size() == 1);
+    CHECK(desk.output.figures[0]->title == "m: all plots of beta[1]");
+    CHECK(desk.output.figures[0]->panels.size() == 4);
+    CHECK(desk.Failure("plot(bare, \"x\", \"all\");") == "Line 1, column 1: the model \"bare\" has no draws");
+    CHECK(desk.Failure("a = [1]; plot(a, \"x\", \"all\");")
+          == "Line 1, column 15: expected the name of a dataset or a model, but \"a\" is none");
+}
+
 TEST_CASE("without a window a plot needs a path")
 {
     Desk<Recorder> desk;
@@ -101,7 +119,7 @@ TEST_CASE("a plot that can't be made is one error with its place, and changes no
           == "Line 1, column 14: there is no type of plot \"histgram\"; did you mean \"histogram\"?");
     CHECK(plot("d, \"x\", \"pie\"")
           == "Line 1, column 14: there is no type of plot \"pie\"; the types are: histogram, scatter, history, "
-             "density, lines, correlogram");
+             "density, lines, correlogram, all");
     CHECK(plot("e, \"x\", \"lines\"")
           == "Line 1, column 6: there is nothing called \"e\" in the workspace; the names are: d");
     CHECK(plot("d, \"z\", \"history\", \"" + file + "\"")
@@ -116,7 +134,7 @@ TEST_CASE("a plot that can't be made is one error with its place, and changes no
     CHECK(plot("d, \"x\", \"history\", \"/nowhere/at/all.png\"")
           == "Line 1, column 1: \"/nowhere/at/all.png\" cannot be written: No such file or directory");
     CHECK(desk.Failure("f = plot(d, \"x\", \"history\");")
-          == "Line 1, column 5: \"plot\" gives nothing that could have a name; expected plot(dataset, "
+          == "Line 1, column 5: \"plot\" gives nothing that could have a name; expected plot(name, "
              "\"variables\", \"type\", [\"path\"]);");
     {
         FakeGnuplot const none;

@@ -83,7 +83,8 @@ struct Symbol
 /// so an operator with a dot and the one without do the same.
 constexpr Symbol COMPARISONS[] = {{"<=", Code::LessOrEqual}, {">=", Code::GreaterOrEqual},
                                   {"==", Code::Equal},       {"!=", Code::NotEqual},
-                                  {"<", Code::Less},         {">", Code::Greater}};
+                                  {"~=", Code::NotEqual},    {"<", Code::Less},
+                                  {">", Code::Greater}};
 constexpr Symbol SUMS[] = {{"+", Code::Add}, {"-", Code::Subtract}};
 constexpr Symbol PRODUCTS[] = {
     {"*", Code::Multiply}, {".*", Code::Multiply}, {"/", Code::Divide}, {"./", Code::Divide}};
@@ -94,10 +95,7 @@ constexpr Symbol FUNCTIONS[] = {
 class Reader
 {
 public:
-    Reader(std::string const& text, std::string const& name, DatasetMap const& datasets)
-        : m_text(text), m_name(name), m_datasets(datasets), m_rows(datasets.at(name)->data.rows())
-    {
-    }
+    Reader(std::string const& text, ExpressionNames const& names) : m_text(text), m_names(names) {}
 
     Steps Read()
     {
@@ -238,7 +236,8 @@ private:
         else if (IsDigit(Peek()) || (Peek() == '.' && IsDigit(Peek(1))))
             Number();
         else
-            Fail("expected a number, a variable, a function or \"(\", but found " + Found());
+            Fail("expected a number, a " + m_names.Kind() + ", a function or \"(\", but found "
+                 + Found());
     }
 
     void CloseParenthesis()
@@ -251,10 +250,9 @@ private:
 
     std::string TakeName()
     {
-        auto const begin = m_offset;
-        while (IsNamePart(Peek()))
-            ++m_offset;
-        return m_text.substr(begin, m_offset - begin);
+        auto const name = LeadingName(std::string_view(m_text).substr(m_offset));
+        m_offset += name.size();
+        return std::string(name);
     }
 
     /// A variable or a function.
@@ -265,7 +263,7 @@ private:
         if (Peek() == '.' && IsNameStart(Peek(1)))
         {
             ++m_offset;
-            Variable(name, TakeName(), begin);
+            Variable(name, begin);
             return;
         }
         SkipBlanks();
@@ -275,26 +273,23 @@ private:
             return;
         }
         m_offset = begin;
-        Fail("a variable is written with its dataset, as " + m_name + "." + name + ", but "
-             + Quoted(name) + " stands alone");
+        Fail("a " + m_names.Kind() + " is written with its " + m_names.OwnerKind() + ", as "
+             + m_names.Owner() + "." + name + ", but " + Quoted(name) + " stands alone");
     }
 
-    void Variable(std::string const& datasetName, std::string const& name, std::size_t begin)
+    /// `owner` began at the place `begin`; what is behind its dot follows.
+    void Variable(std::string const& owner, std::size_t begin)
     {
-        auto const fail = [&](std::string const& message) { throw ExpressionError(message, begin); };
-        auto const found = m_datasets.find(datasetName);
-        if (found == m_datasets.end())
-            fail("there is no dataset " + Quoted(datasetName));
-        auto const& dataset = *found->second;
-        auto const column = FindVariable(dataset, name);
-        if (column == 0)
-            fail("the dataset " + Quoted(datasetName) + " has no variable " + Quoted(name));
-        if (HoldsText(dataset, column))
-            fail("the variable " + datasetName + "." + name + " holds text");
-        if (dataset.data.rows() != m_rows)
-            fail("the dataset " + Quoted(datasetName) + " has " + std::to_string(dataset.data.rows())
-                 + " observations, and " + Quoted(m_name) + " has " + std::to_string(m_rows));
-        m_steps.push_back({Code::Variable, 0.0, dataset.data.col(column).data()});
+        try
+        {
+            auto const found = m_names.Find(owner, std::string_view(m_text).substr(m_offset));
+            m_offset += found.length;
+            m_steps.push_back({Code::Variable, 0.0, found.values});
+        }
+        catch (Error const& error)
+        {
+            throw ExpressionError(error.what(), begin);
+        }
     }
 
     /// From the opening parenthesis to the closing one.
@@ -343,9 +338,7 @@ private:
     }
 
     std::string const& m_text;
-    std::string const& m_name;
-    DatasetMap const& m_datasets;
-    Eigen::Index m_rows;
+    ExpressionNames const& m_names;
     std::size_t m_offset = 0;
     int m_depth = 0;
     Steps m_steps;
@@ -567,15 +560,70 @@ void Count(Steps const& steps, Eigen::Index first, Eigen::Index count, Computed&
             [&](Step const& step) { return step.variable && std::isnan(step.variable[row]); });
     }
 }
+/// The variables of datasets that have as many observations as one of them.
+class DatasetNames : public ExpressionNames
+{
+public:
+    DatasetNames(std::string const& name, DatasetMap const& datasets)
+        : m_name(name), m_datasets(datasets)
+    {
+    }
+
+    Eigen::Index Rows() const override { return m_datasets.at(m_name)->data.rows(); }
+
+    Found Find(std::string const& owner, std::string_view rest) const override
+    {
+        std::string const name(LeadingName(rest));
+        auto const found = m_datasets.find(owner);
+        if (found == m_datasets.end())
+            throw Error("there is no dataset " + Quoted(owner));
+        auto const& dataset = *found->second;
+        auto const column = FindVariable(dataset, name);
+        if (column == 0)
+            throw Error("the dataset " + Quoted(owner) + " has no variable " + Quoted(name));
+        if (HoldsText(dataset, column))
+            throw Error("the variable " + owner + "." + name + " holds text");
+        if (dataset.data.rows() != Rows())
+            throw Error("the dataset " + Quoted(owner) + " has " + std::to_string(dataset.data.rows())
+                        + " observations, and " + Quoted(m_name) + " has " + std::to_string(Rows()));
+        return {dataset.data.col(column).data(), name.size()};
+    }
+
+    std::string Kind() const override { return "variable"; }
+    std::string OwnerKind() const override { return "dataset"; }
+    std::string Owner() const override { return m_name; }
+
+private:
+    std::string const& m_name;
+    DatasetMap const& m_datasets;
+};
+
+/// The operator whose values are those of the program.
+std::string ComparisonOf(Steps const& steps)
+{
+    auto const* const symbol
+        = std::find_if(std::begin(COMPARISONS), std::end(COMPARISONS),
+                       [&](Symbol const& s) { return s.code == steps.back().code; });
+    return symbol == std::end(COMPARISONS) ? std::string() : std::string(symbol->text);
+}
 } // namespace
 
-Computed Compute(std::string const& expression, std::string const& name, DatasetMap const& datasets,
+ExpressionNames::~ExpressionNames() = default;
+
+std::string_view LeadingName(std::string_view text)
+{
+    return text.substr(0, static_cast<std::size_t>(
+                              std::find_if_not(text.begin(), text.end(), IsNamePart) - text.begin()));
+}
+
+Computed Compute(std::string const& expression, ExpressionNames const& names, char const* work,
                  Progress& progress)
 {
-    auto const steps = Reader(expression, name, datasets).Read();
-    auto const rows = datasets.at(name)->data.rows();
-    ProgressScope scope(progress, "Computing the variable");
+    auto const steps = Reader(expression, names).Read();
+    auto const rows = names.Rows();
+    ProgressScope scope(progress, work);
     Computed computed;
+    computed.comparison = ComparisonOf(steps);
     computed.values.resize(rows);
     Machine machine(steps);
     for (Eigen::Index first = 0; first < rows; first += BLOCK)
@@ -587,5 +635,11 @@ Computed Compute(std::string const& expression, std::string const& name, Dataset
             scope.Update(static_cast<std::uint64_t>(first + count), static_cast<std::uint64_t>(rows));
     }
     return computed;
+}
+
+Computed Compute(std::string const& expression, std::string const& name, DatasetMap const& datasets,
+                 Progress& progress)
+{
+    return Compute(expression, DatasetNames(name, datasets), "Computing the variable", progress);
 }
 } // namespace workbench

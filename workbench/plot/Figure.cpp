@@ -5,8 +5,10 @@
 #include <cstdio>
 #include <limits>
 #include <set>
+#include <utility>
 
 #include "common/Number.h"
+#include "workbench/analysis/Draws.h"
 #include "workbench/engine/Error.h"
 #include "workbench/engine/Progress.h"
 #include "workbench/engine/Variables.h"
@@ -28,10 +30,28 @@ constexpr std::size_t MARKED_POINTS = 100;
 /// Beyond this an axis can't be divided.
 constexpr double LARGEST = 1e150;
 
-/// A variable as it is plotted.
+/// A figure of all types has so many panels for each variable.
+constexpr std::size_t ALL_PANELS = 4;
+
+/// What the plotted values are called.
+struct Words
+{
+    std::string one;  ///< What has the values.
+    std::string many;
+    std::string row; ///< What has a value of each.
+    std::string rows;
+    std::string axis;
+};
+
+Words const OF_DATA{"variable", "variables", "observation", "observations", "Observation"};
+Words const OF_DRAWS{"draw", "draws", "draw", "draws", "Draw"};
+
+/// A variable, or the draws of a quantity, as they are plotted.
 struct Variable
 {
     std::string name;
+    Words const* words = nullptr;
+    Eigen::Index chain = 0; ///< So many values are of one chain.
     Eigen::VectorXd values; ///< NaN where there is none, or an infinite one.
     Eigen::Index missing = 0;
     Eigen::Index infinite = 0;
@@ -48,11 +68,15 @@ struct Variable
     }
 };
 
-Variable TakeVariable(Dataset const& dataset, std::string const& name)
+/// "the variable "x""
+std::string Named(Variable const& variable)
 {
-    Variable variable;
-    variable.name = name;
-    variable.values = dataset.data.col(NumberColumnOf(dataset, name));
+    return "the " + variable.words->one + " \"" + variable.name + "\"";
+}
+
+/// `variable` has its name and its values; the rest is found here.
+Variable Checked(Variable variable)
+{
     for (double& value : variable.values)
     {
         variable.missing += std::isnan(value);
@@ -60,11 +84,11 @@ Variable TakeVariable(Dataset const& dataset, std::string const& name)
         if (std::isinf(value))
             value = NOTHING;
         if (std::abs(value) > LARGEST)
-            throw Error("the variable \"" + name + "\" has values beyond " + zenqo::FormatNumber(LARGEST)
+            throw Error(Named(variable) + " has values beyond " + zenqo::FormatNumber(LARGEST)
                         + " in size, too large to be drawn");
     }
     if (variable.Count() == 0)
-        throw Error("the variable \"" + name + "\" has no value that can be plotted");
+        throw Error(Named(variable) + " has no value that can be plotted");
     return variable;
 }
 
@@ -166,8 +190,8 @@ Panel DensityPanel(Variable const& variable, std::string& description, Progress&
     auto const values = variable.Sorted();
     double const bandwidth = SilvermanBandwidth(values);
     if (!(bandwidth > 0.0))
-        throw Error("the variable \"" + variable.name + "\" has the same value at all observations, "
-                    "and such values have no density");
+        throw Error(Named(variable) + " has the same value at all " + variable.words->rows
+                    + ", and such values have no density");
     Series curve(Series::Style::Line);
     double const start = values.front() - 3.0 * bandwidth;
     double const step = (values.back() + 3.0 * bandwidth - start) / (DENSITY_POINTS - 1);
@@ -201,7 +225,7 @@ Panel HistoryPanel(Variable const& variable, std::string& description, Progress&
     description += Describe(variable, "");
 
     Panel panel;
-    panel.xLabel = "Observation";
+    panel.xLabel = variable.words->axis;
     panel.yLabel = variable.name;
     // From the first observation to the last, with room for the marks.
     double const length = line.x.back() - 1.0;
@@ -222,13 +246,21 @@ Series Across(Range const& x, double height, Series line)
     return line;
 }
 
+/// The values with `lags` missing ones between two chains, so that no pair is of both.
+Eigen::VectorXd ChainsApart(Variable const& variable, int lags)
+{
+    auto const chains = variable.values.size() / variable.chain;
+    Eigen::MatrixXd apart = Eigen::MatrixXd::Constant(variable.chain + lags, chains, NOTHING);
+    apart.topRows(variable.chain) = variable.values.reshaped(variable.chain, chains);
+    return apart.reshaped().head(apart.size() - lags);
+}
+
 Panel CorrelogramPanel(Variable const& variable, std::string& description, Progress&)
 {
     if (variable.Count() < 2)
-        throw Error("the variable \"" + variable.name + "\" has one value only, and needs two at least "
-                    "for a correlogram");
+        throw Error(Named(variable) + " has one value only, and needs two at least for a correlogram");
     int const lags = CorrelogramLags(variable.Count());
-    auto const correlations = Autocorrelations(variable.values, lags);
+    auto const correlations = Autocorrelations(ChainsApart(variable, lags), lags);
     Series strokes(Series::Style::Impulses);
     for (int lag = 1; lag <= lags; ++lag)
         if (!std::isnan(correlations[lag - 1]))
@@ -237,8 +269,8 @@ Panel CorrelogramPanel(Variable const& variable, std::string& description, Progr
             strokes.y.push_back(correlations[lag - 1]);
         }
     if (strokes.x.empty())
-        throw Error("the variable \"" + variable.name + "\" has the same value at all observations, or "
-                    "no two near each other, and so no autocorrelations");
+        throw Error(Named(variable) + " has the same value at all " + variable.words->rows
+                    + ", or no two near each other, and so no autocorrelations");
     double const band = WhiteNoiseBand(variable.Count());
     std::string const half = zenqo::FormatNumber(band);
     description += Describe(variable, Counted(lags, "lag", "lags") + ", 95% band of white noise -" + half
@@ -273,9 +305,10 @@ Series Pairs(Variable const& x, Variable const& y, std::string& description)
         pairs.y.push_back(complete ? y.values[i] : NOTHING);
     }
     if (count == 0)
-        throw Error("no observation has values of both \"" + y.name + "\" and \"" + x.name
+        throw Error("no " + x.words->row + " has values of both \"" + y.name + "\" and \"" + x.name
                     + "\" that can be plotted");
-    description += y.name + " and " + x.name + ": " + Counted(count, "observation", "observations") + ", "
+    description += y.name + " and " + x.name + ": "
+                   + Counted(count, x.words->row.c_str(), x.words->rows.c_str()) + ", "
                    + std::to_string(x.values.size() - count) + " left out\n";
     return pairs;
 }
@@ -338,39 +371,44 @@ Panel LinesPanel(std::vector<Variable> const& variables, std::string& descriptio
 
 using PanelMaker = Panel (*)(Variable const&, std::string&, Progress&);
 
-/// What makes the panel of one variable; null for the types that need two.
-PanelMaker MakerOf(PlotType type)
+/// What makes the panels of one variable; nothing for the types that need two.
+std::vector<PanelMaker> MakersOf(PlotType type)
 {
     switch (type)
     {
-    case PlotType::Histogram: return HistogramPanel;
-    case PlotType::Density: return DensityPanel;
-    case PlotType::History: return HistoryPanel;
-    case PlotType::Correlogram: return CorrelogramPanel;
+    case PlotType::Histogram: return {HistogramPanel};
+    case PlotType::Density: return {DensityPanel};
+    case PlotType::History: return {HistoryPanel};
+    case PlotType::Correlogram: return {CorrelogramPanel};
+    case PlotType::All: return {HistogramPanel, HistoryPanel, DensityPanel, CorrelogramPanel};
     case PlotType::Scatter:
     case PlotType::Lines: break;
     }
-    return nullptr;
+    return {};
 }
 
-std::string TitleOf(std::vector<std::string> const& variables, PlotType type)
+std::string TypeName(PlotType type) { return PlotTypeNames()[static_cast<std::size_t>(type)]; }
+
+std::string TitleOf(std::vector<std::string> const& names, PlotType type)
 {
-    bool const pairs = MakerOf(type) == nullptr;
-    std::string title = PlotTypeNames()[static_cast<std::size_t>(type)] + " of ";
-    for (std::size_t i = 0; i < variables.size(); ++i)
-        title += (i == 0 ? "" : pairs && i + 1 == variables.size() ? " against " : ", ") + variables[i];
+    bool const pairs = MakersOf(type).empty();
+    std::string title = TypeName(type) + (type == PlotType::All ? " plots of " : " of ");
+    for (std::size_t i = 0; i < names.size(); ++i)
+        title += (i == 0 ? "" : pairs && i + 1 == names.size() ? " against " : ", ") + names[i];
     return title;
 }
 
-void CheckNames(std::vector<std::string> const& names, PlotType type)
+void CheckNames(std::vector<std::string> const& names, PlotType type, Words const& words)
 {
     if (names.empty())
-        throw Error("no variables are given to be plotted");
-    if (names.size() < 2 && !MakerOf(type))
-        throw Error("a plot of type \"" + PlotTypeNames()[static_cast<std::size_t>(type)]
-                    + "\" needs two variables at least; the last one goes on the horizontal axis");
-    if (names.size() > MOST_PLOTTED)
-        throw Error("a figure takes at most " + std::to_string(MOST_PLOTTED) + " variables, but "
+        throw Error("no " + words.many + " are given to be plotted");
+    if (names.size() < 2 && MakersOf(type).empty())
+        throw Error("a plot of type \"" + TypeName(type) + "\" needs two " + words.many
+                    + " at least; the last one goes on the horizontal axis");
+    auto const most = type == PlotType::All ? MOST_PLOTTED / ALL_PANELS : MOST_PLOTTED;
+    if (names.size() > most)
+        throw Error(std::string("a figure ") + (type == PlotType::All ? "of all types " : "")
+                    + "takes at most " + std::to_string(most) + " " + words.many + ", but "
                     + std::to_string(names.size()) + " are given");
     std::set<std::string> seen;
     for (auto const& name : names)
@@ -378,40 +416,79 @@ void CheckNames(std::vector<std::string> const& names, PlotType type)
             throw Error("\"" + name + "\" is given twice");
 }
 
-/// How many panels stand side by side. Histories stand one above the other, as time is common to all.
+/// How many panels stand side by side. Histories stand one above the other, as time is common to all,
+/// and so do variables of which all is shown.
 int ColumnsFor(std::size_t panels, PlotType type)
 {
     double const count = static_cast<double>(panels);
+    if (type == PlotType::All && panels > ALL_PANELS)
+        return ALL_PANELS;
     return static_cast<int>(type == PlotType::History ? std::ceil(count / 5.0) : std::ceil(std::sqrt(count)));
+}
+
+/// `take` gives the variable of a name.
+template <class Take>
+Figure MakeFigureOf(std::vector<std::string> const& names, PlotType type, Words const& words,
+                    Take const& take, Progress& progress)
+{
+    CheckNames(names, type, words);
+    std::vector<Variable> variables;
+    for (auto const& name : names)
+    {
+        variables.push_back(take(name));
+        variables.back().name = name;
+        variables.back().words = &words;
+        variables.back() = Checked(std::move(variables.back()));
+    }
+
+    Figure figure;
+    figure.title = TitleOf(names, type);
+    for (auto const& variable : variables)
+        for (auto const& make : MakersOf(type))
+            figure.panels.push_back(make(variable, figure.description, progress));
+    if (type == PlotType::Lines)
+        figure.panels.push_back(LinesPanel(variables, figure.description));
+    if (type == PlotType::Scatter)
+        for (std::size_t k = 0; k + 1 < variables.size(); ++k)
+            figure.panels.push_back(ScatterPanel(variables.back(), variables[k], figure.description));
+    figure.columns = ColumnsFor(figure.panels.size(), type);
+    return figure;
 }
 } // namespace
 
 std::vector<std::string> const& PlotTypeNames()
 {
-    static std::vector<std::string> const names{"histogram", "scatter", "history",
-                                                "density",   "lines",   "correlogram"};
+    static std::vector<std::string> const names{"histogram", "scatter",     "history", "density",
+                                                "lines",     "correlogram", "all"};
     return names;
 }
 
 Figure MakeFigure(Dataset const& dataset, std::vector<std::string> const& names, PlotType type,
                   Progress& progress)
 {
-    CheckNames(names, type);
-    std::vector<Variable> variables;
-    for (auto const& name : names)
-        variables.push_back(TakeVariable(dataset, name));
+    auto const take = [&](std::string const& name)
+    {
+        Variable variable;
+        variable.values = dataset.data.col(NumberColumnOf(dataset, name));
+        variable.chain = variable.values.size();
+        return variable;
+    };
+    return MakeFigureOf(names, type, OF_DATA, take, progress);
+}
 
-    Figure figure;
-    figure.title = TitleOf(names, type);
-    if (auto const make = MakerOf(type))
-        for (auto const& variable : variables)
-            figure.panels.push_back(make(variable, figure.description, progress));
-    else if (type == PlotType::Lines)
-        figure.panels.push_back(LinesPanel(variables, figure.description));
-    else
-        for (std::size_t k = 0; k + 1 < variables.size(); ++k)
-            figure.panels.push_back(ScatterPanel(variables.back(), variables[k], figure.description));
-    figure.columns = ColumnsFor(figure.panels.size(), type);
-    return figure;
+Figure MakeFigure(Model const& model, std::vector<std::string> const& names, PlotType type,
+                  Progress& progress)
+{
+    auto const take = [&](std::string const& name)
+    {
+        auto const column = FindDraw(model, name);
+        if (column < 0)
+            throw Error("the model has no draw \"" + name + "\"");
+        Variable variable;
+        variable.values = model.draws.col(column);
+        variable.chain = variable.values.size() / ChainsOf(model);
+        return variable;
+    };
+    return MakeFigureOf(names, type, OF_DRAWS, take, progress);
 }
 } // namespace workbench

@@ -4,12 +4,13 @@
 #include <vector>
 
 #include "engine/Dataset.h"
+#include "engine/Model.h"
 
 namespace workbench
 {
 class Progress;
 
-/// The kinds of plot, in the order of the dialog that asks for one.
+/// The kinds of plot, those of datasets in the order of the dialog that asks for one.
 enum class PlotType
 {
     Histogram,
@@ -17,7 +18,8 @@ enum class PlotType
     History,
     Density,
     Lines,
-    Correlogram
+    Correlogram,
+    All ///< Histogram, history, density and correlogram of each variable.
 };
 
 /// Their names in scripts, in their order.
@@ -81,13 +83,18 @@ constexpr std::size_t MOST_PLOTTED = 25;
 
 /// Makes the figure of variables of `dataset`.
 ///
-/// Histogram, Density, History and Correlogram have a panel for each variable, Scatter a panel for
-/// each variable but the last, and Lines one panel for all; Scatter and Lines have the last variable
+/// Histogram, Density, History and Correlogram have a panel for each variable, All has four, Scatter
+/// one for each variable but the last, and Lines one panel for all; Scatter and Lines have the last variable
 /// on the horizontal axis. Values that are missing or infinite are left out, by Scatter and Lines
 /// observations that have one. A line is broken where one is left out.
 ///
 /// Throws an Error if there are too few or too many variables, if one is not there, is given twice or
 /// holds text, or if there is nothing to compute or to draw.
 Figure MakeFigure(Dataset const& dataset, std::vector<std::string> const& variables, PlotType type,
+                  Progress& progress);
+
+/// The same of the draws of `model`, which has some. A history shows the chains one behind the other;
+/// the autocorrelations are those within the chains.
+Figure MakeFigure(Model const& model, std::vector<std::string> const& draws, PlotType type,
                   Progress& progress);
 } // namespace workbench

@@ -2,8 +2,11 @@
 
 #include <cmath>
 #include <iterator>
+#include <set>
 #include <sstream>
+#include <string_view>
 
+#include "workbench/engine/Utf8.h"
 #include "workbench/script/Nearest.h"
 
 namespace workbench
@@ -49,6 +52,15 @@ Argument const& Arguments::At(Which const& which) const
     return which.m_key.empty() ? m_call.arguments.at(which.m_index) : *FindOption(which.m_key);
 }
 
+Position Arguments::PlaceIn(Which const& which, std::size_t offset) const
+{
+    // A string stands on one line, behind its quote.
+    auto place = PositionOf(which);
+    auto const before = std::string_view(Text(which)).substr(0, offset);
+    place.column += 1 + static_cast<int>(CountCharacters(before));
+    return place;
+}
+
 char Arguments::Delimiter(Which const& which) const
 {
     auto const& text = Text(which);
@@ -89,6 +101,23 @@ std::shared_ptr<Dataset> Arguments::DatasetAt(Which const& which) const
 std::shared_ptr<Model> Arguments::ModelAt(Which const& which) const
 {
     return ObjectOf<Model>(At(which), m_workspace, "the name of a model");
+}
+
+std::vector<std::shared_ptr<Model>> Arguments::ModelsAt(Which const& which) const
+{
+    auto argument = At(which);
+    std::set<std::string> seen;
+    std::vector<std::shared_ptr<Model>> models;
+    for (auto const& name : Names(which))
+    {
+        argument.text = name;
+        if (!seen.insert(name).second)
+            throw ScriptError("the model \"" + name + "\" is given twice", argument.position);
+        models.push_back(ObjectOf<Model>(argument, m_workspace, "the name of a model"));
+    }
+    if (models.empty())
+        throw ScriptError("no model is named", argument.position);
+    return models;
 }
 
 Eigen::MatrixXd Arguments::MatrixAt(Which const& which) const

@@ -41,6 +41,10 @@ public:
     /// Of a string or a name; empty for others.
     std::string const& Text(Which const& which) const { return At(which).text; }
     Position PositionOf(Which const& which) const { return At(which).position; }
+
+    /// The place in the script of a byte of a string.
+    Position PlaceIn(Which const& which, std::size_t offset) const;
+
     char Delimiter(Which const& which) const;
 
     /// The names that stand in a string, with blanks between them.
@@ -60,6 +64,10 @@ public:
     Object AnyObject(Which const& which) const;
     std::shared_ptr<Dataset> DatasetAt(Which const& which) const;
     std::shared_ptr<Model> ModelAt(Which const& which) const;
+
+    /// The models whose names stand in a string, each once.
+    std::vector<std::shared_ptr<Model>> ModelsAt(Which const& which) const;
+
     Eigen::MatrixXd MatrixAt(Which const& which) const;
 
 private:

@@ -5,6 +5,7 @@
 #include "workbench/engine/DelimitedText.h"
 #include "workbench/engine/DesignMatrix.h"
 #include "workbench/engine/WorkspaceFile.h"
+#include "workbench/script/AnalysisCommands.h"
 #include "workbench/script/DataCommands.h"
 #include "workbench/script/Output.h"
 #include "workbench/script/PlotCommands.h"
@@ -115,6 +116,12 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Takes an object out of the workspace.",
          RunClear},
+        {"compare",
+         {{"models", Kind::String}},
+         Naming::Optional,
+         "Tells how probable models are, given the data, by their marginal likelihoods.",
+         RunCompare,
+         {{"priors", Kind::Matrix}, {"approximation", Kind::String}}},
         {"create",
          {{"dataset", Kind::DatasetName}, {"name", Kind::String}, {"expression", Kind::String}},
          Naming::Never,
@@ -150,12 +157,13 @@ std::vector<Command> const& Commands()
          "Replaces the whole workspace by that of a workspace file.",
          RunLoad},
         {"plot",
-         {{"dataset", Kind::DatasetName},
+         {{"name", Kind::ObjectName},
           {"variables", Kind::String},
           {"type", Kind::String},
           {"path", Kind::String, Given::Perhaps}},
          Naming::Never,
-         "Draws variables of a dataset as a histogram, scatter, history, density, lines or correlogram.",
+         "Draws variables of a dataset or the draws of a model: as a histogram, scatter, history, density, "
+         "lines, correlogram, or all of those for one variable.",
          RunPlot},
         {"print",
          {{"name", Kind::ObjectName}},
@@ -185,6 +193,11 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Prints mean, standard deviation, quartiles and limits of variables.",
          RunSummarize},
+        {"test",
+         {{"model", Kind::ModelName}, {"condition", Kind::String, Given::Often}},
+         Naming::Never,
+         "Tells how probable conditions on the parameters of a model are.",
+         RunTest},
     };
     return commands;
 }

@@ -1,34 +1,19 @@
 #include "workbench/script/DataCommands.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "workbench/engine/Expression.h"
 #include "workbench/engine/InputFile.h"
 #include "workbench/engine/Sort.h"
 #include "workbench/engine/Summary.h"
-#include "workbench/engine/Utf8.h"
 #include "workbench/engine/Variables.h"
 #include "workbench/script/Output.h"
 #include "workbench/script/Table.h"
 
 namespace workbench
 {
-namespace
-{
-/// The place in the script of a byte of a string: the string stands on one line, behind its quote.
-Position PlaceIn(Arguments const& arguments, std::size_t index, std::size_t offset)
-{
-    auto place = arguments.PositionOf(index);
-    auto const before = std::string_view(arguments.Text(index)).substr(0, offset);
-    place.column += 1 + static_cast<int>(CountCharacters(before));
-    return place;
-}
-
-/// Puts `made` in the place of the dataset `name`. It keeps the structure, unless that rests on one
-/// of the variables `touched`.
-Outcome Replace(Context const& context, std::string const& name, std::shared_ptr<Dataset> const& made,
-                std::vector<std::string> const& touched)
+Outcome ReplaceDataset(Context const& context, std::string const& name,
+                       std::shared_ptr<Dataset> const& made, std::vector<std::string> const& touched)
 {
     Outcome outcome;
     outcome.assigned.emplace_back(name, made);
@@ -43,7 +28,6 @@ Outcome Replace(Context const& context, std::string const& name, std::shared_ptr
                                + Quoted(*rest) + ".");
     return outcome;
 }
-} // namespace
 
 void PrintStructure(std::string const& name, Structure const& structure, Output& output)
 {
@@ -69,7 +53,7 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
     }
     catch (ExpressionError const& error)
     {
-        throw ScriptError(error.what(), PlaceIn(arguments, 2, error.offset));
+        throw ScriptError(error.what(), arguments.PlaceIn(2, error.offset));
     }
     auto const made = WithVariable(*dataset, name, computed.values, context.progress);
     std::string text = "\n" + owner + "." + name + ": "
@@ -83,21 +67,21 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
             "The expression has no value in " + Count(computed.undefined, "observation", "observations")
             + " in which its variables have one: an operation is not defined there, as "
               "0/0 or the logarithm of a negative number.");
-    return Replace(context, owner, made, {name});
+    return ReplaceDataset(context, owner, made, {name});
 }
 
 Outcome RunDrop(Context const& context, Arguments const& arguments)
 {
     auto const names = arguments.Names(1);
     auto const made = WithoutVariables(*arguments.DatasetAt(0), names, context.progress);
-    return Replace(context, arguments.Text(0), made, names);
+    return ReplaceDataset(context, arguments.Text(0), made, names);
 }
 
 Outcome RunSort(Context const& context, Arguments const& arguments)
 {
     auto const dataset = arguments.DatasetAt(0);
     auto const keys = ColumnsOf(*dataset, arguments.Names(1));
-    return Replace(context, arguments.Text(0), Sorted(*dataset, keys, context.progress), {});
+    return ReplaceDataset(context, arguments.Text(0), Sorted(*dataset, keys, context.progress), {});
 }
 
 Outcome RunStructure(Context const& context, Arguments const& arguments)

@@ -14,6 +14,11 @@ Outcome RunStructure(Context const& context, Arguments const& arguments);
 Outcome RunSummarize(Context const& context, Arguments const& arguments);
 ///@}
 
+/// Puts `made` in the place of the dataset `name`. It keeps the structure, unless that rests on one of
+/// the variables `touched`.
+Outcome ReplaceDataset(Context const& context, std::string const& name,
+                       std::shared_ptr<Dataset> const& made, std::vector<std::string> const& touched);
+
 /// Prints one line on the structure of the dataset `name`, or nothing if it is empty.
 void PrintStructure(std::string const& name, Structure const& structure, Output& output);
 } // namespace workbench

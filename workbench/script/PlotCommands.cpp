@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "workbench/analysis/Draws.h"
 #include "workbench/engine/Progress.h"
 #include "workbench/plot/Figure.h"
 #include "workbench/plot/Gnuplot.h"
@@ -26,6 +27,20 @@ PlotType TypeAt(Arguments const& arguments, std::size_t index)
                           arguments.PositionOf(index));
     return static_cast<PlotType>(found - names.begin());
 }
+/// The figure of what is named: variables of a dataset, or draws of a model.
+Figure FigureOf(Arguments const& arguments, PlotType type, Progress& progress)
+{
+    auto const object = arguments.AnyObject(0);
+    auto const names = arguments.Names(1);
+    if (auto const* const dataset = std::get_if<std::shared_ptr<Dataset>>(&object))
+        return MakeFigure(**dataset, names, type, progress);
+    auto const* const model = std::get_if<std::shared_ptr<Model>>(&object);
+    if (!model)
+        throw ScriptError("expected the name of a dataset or a model, but \"" + arguments.Text(0) + "\" is none",
+                          arguments.PositionOf(0));
+    CheckDraws(**model, arguments.Text(0));
+    return MakeFigure(**model, names, type, progress);
+}
 } // namespace
 
 Outcome RunPlot(Context const& context, Arguments const& arguments)
@@ -38,7 +53,7 @@ Outcome RunPlot(Context const& context, Arguments const& arguments)
                     "fourth argument, which ends in .png, .svg or .pdf");
 
     ProgressScope progress(context.progress, "Drawing the figure");
-    auto figure = MakeFigure(*arguments.DatasetAt(0), arguments.Names(1), type, context.progress);
+    auto figure = FigureOf(arguments, type, context.progress);
     figure.title = arguments.Text(0) + ": " + figure.title;
     auto const picture
         = toFile ? FilePicture(figure, format) : Picture{format, WINDOW_WIDTH, WINDOW_HEIGHT, 1.0};
