@@ -3,6 +3,15 @@
 set(zenqo_public_classes
   console/MainTextCtrl
   console/ZenqoConsole
+  dialogs/analysis/AAD0_NotReady
+  dialogs/analysis/AAD1_StoreElement
+  dialogs/analysis/AAD2a_CalculateMFX
+  dialogs/analysis/AAD2b_CalculateMFX
+  dialogs/analysis/AAD2c_CalculateMFX
+  dialogs/analysis/AAD3_Forecast
+  dialogs/analysis/AAD4_PlotIRFs
+  dialogs/analysis/AAD5a_Predict
+  dialogs/analysis/AAD5b_Predict
   dialogs/analysis/CompareModelsDialog
   dialogs/analysis/PlotDrawsDialog
   dialogs/analysis/TestParametersDialog
@@ -70,6 +79,10 @@ set(zenqo_engine_headers
   engine/Sentinels.h)
 
 set(zenqo_private_sources
+  common/ActionArguments.cpp
+  common/ActionControls.cpp
+  common/ActionFrame.cpp
+  common/ActionOptions.cpp
   common/CaretText.cpp
   common/ChoiceRow.cpp
   common/Delimiter.cpp
@@ -82,12 +95,14 @@ set(zenqo_private_sources
   common/Lags.cpp
   common/ListBoxItems.cpp
   common/ListPair.cpp
+  common/MarginalEffects.cpp
   common/MatrixText.cpp
   common/NameList.cpp
   common/NotebookDialog.cpp
   common/Number.cpp
   common/NumberGrid.cpp
   common/PlusTab.cpp
+  common/Predictions.cpp
   common/PriorChoice.cpp
   common/RadioBox.cpp
   common/Records.cpp

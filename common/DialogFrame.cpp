@@ -3,7 +3,9 @@
 #include <wx/button.h>
 
 #include "common/SizerItem.h"
+#include "common/Text.h"
 #include "common/Warning.h"
+#include "engine/Functions.h"
 
 namespace zenqo
 {
@@ -37,10 +39,11 @@ wxFlexGridSizer* AddGrowingCell(wxSizer* sizer)
     return cell;
 }
 
-wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label)
+wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label,
+                                 int proportion, int flags, int border)
 {
     auto* const box = new wxStaticBoxSizer(wxVERTICAL, parent, label);
-    sizer->Add(box, 0, wxEXPAND | wxALL, 5);
+    sizer->Add(box, proportion, flags, border);
     return box;
 }
 
@@ -58,6 +61,13 @@ void LayOutDialog(wxDialog* dialog, wxSizer* sizer, int rounds)
 wxString ComplainOfNone(wxArrayString const& names, wxString const& what)
 {
     return names[0].empty() ? "No " + what + " have been selected." : wxString();
+}
+
+wxString ComplainOfName(wxString const& name, wxString const& missing, wxString const& illegal)
+{
+    if (name.empty())
+        return missing;
+    return CheckID(ToNarrow(name)) ? wxString() : illegal;
 }
 
 void AcceptUnless(wxString const& complaint, wxDialog* dialog, wxCommandEvent& event)

@@ -21,7 +21,8 @@ wxButton* AddFocusedButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& 
 wxFlexGridSizer* AddGrowingCell(wxSizer* sizer);
 
 /// Adds to `sizer` an empty box with `label`, in which an ampersand is written twice.
-wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label);
+wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label,
+                                 int proportion = 0, int flags = wxEXPAND | wxALL, int border = 5);
 
 /// Adds to `sizer` a box with `label` around a picker that is made of `arguments`.
 template <class Picker, class... Arguments>
@@ -54,6 +55,10 @@ void LayOutAroundNote(wxDialog* dialog, wxSizer* sizer, Note* note)
 /// What is wrong with the names that a picker gives; nothing is if there is one. `what` says what they
 /// are names of.
 wxString ComplainOfNone(wxArrayString const& names, wxString const& what = "variables");
+
+/// What is wrong with `name`, which the user gave to something new: `missing` if there is none, `illegal`
+/// if the engine does not take it.
+wxString ComplainOfName(wxString const& name, wxString const& missing, wxString const& illegal);
 
 /// The end of a dialog's handler of `wxID_OK`. Without a complaint the event goes on and ends the
 /// dialog; otherwise the user is warned and the dialog stays as it is.

@@ -10,9 +10,16 @@
 std::vector<Entry> AllEntries()
 {
     std::vector<Entry> all;
-    for (auto&& entries : {ConsoleEntries(), PickerEntries(), ModelSpecEntries(), VariablePickerEntries(),
-                           EquationEntries(), DataDialogEntries(), AnalysisDialogEntries(),
-                           PaneEntries()})
+    for (auto&& entries :
+         {ConsoleEntries(),
+          PickerEntries(),
+          ModelSpecEntries(),
+          VariablePickerEntries(),
+          EquationEntries(),
+          DataDialogEntries(),
+          AnalysisDialogEntries(),
+          PostEstimationEntries(),
+          PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());
     return all;
 }

@@ -9,7 +9,6 @@
 #include "common/Text.h"
 #include "common/TransferButton.h"
 #include "common/VariableRoles.h"
-#include "engine/Functions.h"
 #include "modelspec/Calculator.h"
 #include "pickers/DatasetPicker.h"
 
@@ -76,14 +75,13 @@ void CreateVariableDialog::ShowVariables()
 
 wxString CreateVariableDialog::Complaint() const
 {
-    if (GetVarName().empty())
-        return "No name has been provided for the new variable.";
-    if (!CheckID(zenqo::ToNarrow(GetVarName())))
-        return "The new variable name must not contain spaces\nor special characters and it must not "
-               "begin\nwith a number.";
-    if (GetExpression().empty())
+    auto const complaint = zenqo::ComplainOfName(
+        GetVarName(), "No name has been provided for the new variable.",
+        "The new variable name must not contain spaces\nor special characters and it must not "
+        "begin\nwith a number.");
+    if (complaint.empty() && GetExpression().empty())
         return "No expression has been provided for the new variable.";
-    return wxString();
+    return complaint;
 }
 
 void CreateVariableDialog::OnButtonOk(wxCommandEvent& event)
