@@ -43,6 +43,9 @@ wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString cons
                                  int proportion, int flags, int border)
 {
     auto* const box = new wxStaticBoxSizer(wxVERTICAL, parent, label);
+    // The toolkit cuts a caption that is wider than what stands in the box.
+    auto const* const frame = box->GetStaticBox();
+    box->SetMinSize(wxSize(frame->GetTextExtent(frame->GetLabelText()).x + 10, -1));
     sizer->Add(box, proportion, flags, border);
     return box;
 }

@@ -1,6 +1,6 @@
 // The engine's symbols as the library's own tests define them: simple and predictable.
 
-#include "engine/Engine.h"
+#include "tests/support/EngineForTests.h"
 
 #include <cctype>
 
@@ -12,8 +12,7 @@ bool RUN_GUI = true;
 std::string ZENQO_SYSTEM = ".";
 Eigen::VectorXd GLOBAL_Gibbs = (Eigen::VectorXd(5) << 20000, 10000, 1, 1, 42).finished();
 Eigen::IOFormat GLOBAL_IOFormatConsole(6, 0, "\t", "\n", "", "", "", "");
-Eigen::IOFormat GLOBAL_IOFormatInput(Eigen::FullPrecision, Eigen::DontAlignCols, ", ", "; ", "", "", "[",
-                                     "]");
+Eigen::IOFormat GLOBAL_IOFormatInput(Eigen::FullPrecision, Eigen::DontAlignCols, ", ", "; ");
 std::string GLOBAL_DirectoryJAGS = zenqo::DEFAULT_STRING;
 std::string GLOBAL_DirectoryBUGS = zenqo::DEFAULT_STRING;
 std::string GLOBAL_DirectorySTAN = zenqo::DEFAULT_STRING;
@@ -30,8 +29,11 @@ std::string BreakLongMassage(std::string const& text, bool flag)
 
 std::string ExpandContractStringLong(std::string const& text) { return "<<" + text + ">>"; }
 
+std::vector<std::string> g_checkedIds;
+
 bool CheckID(std::string const& id)
 {
+    g_checkedIds.push_back(id);
     if (id.empty() || std::isdigit(static_cast<unsigned char>(id[0])))
         return false;
     for (unsigned char const c : id)

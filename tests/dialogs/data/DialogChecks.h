@@ -37,14 +37,17 @@ inline wxSizer* CheckCell(wxSizerItem const* item)
     return cell;
 }
 
-/// The box with a caption, which holds one thing alone.
-inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label)
+/// The box with a caption, which is seen whole, and one thing in it.
+inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label,
+                             Placement const& placement = {0, wxEXPAND | wxALL, 5})
 {
-    CHECK(PlacementOf(item) == Placement{0, wxEXPAND | wxALL, 5});
+    CHECK(PlacementOf(item) == placement);
     auto* const box = dynamic_cast<wxStaticBoxSizer*>(item->GetSizer());
     REQUIRE(box);
     CHECK(box->GetOrientation() == wxVERTICAL);
-    CHECK(box->GetStaticBox()->GetLabel() == label);
+    auto const* const frame = box->GetStaticBox();
+    CHECK(frame->GetLabel() == label);
+    CHECK(frame->GetSize().x >= frame->GetTextExtent(frame->GetLabelText()).x);
     REQUIRE(box->GetItemCount() == 1);
     return Item(box, 0);
 }
@@ -64,7 +67,8 @@ inline void CheckRadioBox(wxSizerItem const* item, wxRadioBox* box, wxString con
     CHECK(box->GetSelection() == 0);
 }
 
-inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog)
+inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog,
+                              wxString const& accept = "&Run")
 {
     CHECK(PlacementOf(item)
           == Placement{0, wxLEFT | wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM, 5});
@@ -72,7 +76,7 @@ inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog)
     REQUIRE(row);
     CHECK(row->GetAffirmativeButton() == dialog.FindWindow(wxID_OK));
     CHECK(row->GetCancelButton() == dialog.FindWindow(wxID_CANCEL));
-    CHECK(dialog.FindWindow(wxID_OK)->GetLabel() == "&Run");
+    CHECK(dialog.FindWindow(wxID_OK)->GetLabel() == accept);
     CHECK(dialog.FindWindow(wxID_CANCEL)->GetLabel() == "&Cancel");
 }
 
