@@ -7,8 +7,8 @@ using namespace action_checks;
 namespace
 {
 constexpr char NO_NAME[] = "Please provide a name for the new variable.";
-constexpr char BAD_NAME[] = "The variable name must not contain spaces\nor special characters and it must not "
-                            "begin\nwith a number.";
+constexpr char BAD_NAME[] = "The variable name must not contain spaces\nor special characters and it "
+                            "must not begin\nwith a number.";
 
 struct StoreFixture
 {
@@ -42,11 +42,11 @@ TEST_CASE("store element dialog: layout")
 
 TEST_CASE("store element dialog: an empty note is shown, and so is any other text")
 {
-    StoreFixture fixture({"\xE6\x97\xA5\xE6\x9C\xAC", LONG_MODEL, SENTINEL, "", "", ""});
-    auto const parts = CheckFrame(
-        fixture.dialog, "Store model element to dataset",
-        std::string("Storing \xE6\x97\xA5\xE6\x9C\xAC from model \"") + LONG_MODEL + "\" in dataset \"" + SENTINEL + "\".",
-        320);
+    StoreFixture fixture({NIPPON, LONG_MODEL, SENTINEL, "", "", ""});
+    auto const parts = CheckFrame(fixture.dialog, "Store model element to dataset",
+                                  "Storing " + NIPPON + " from model \"" + LONG_MODEL
+                                      + "\" in dataset \"" + SENTINEL + "\".",
+                                  320);
     REQUIRE(parts.size() == 3);
     CheckNameRow(parts[0], "", "");
     CheckNote(fixture.dialog, parts, "");
@@ -73,22 +73,22 @@ TEST_CASE("store element dialog: names that it takes, and names that it refuses"
 TEST_CASE("store element dialog: the name is told as it was typed")
 {
     StoreFixture fixture;
-    for (char const* text : {"abc", "", " a b ", "\"quoted\"", "Z\xC3\xBCrich", "p_"})
+    for (auto const& text : Arguments{"abc", "", " a b ", "\"quoted\"", ZURICH, "p_"})
     {
         fixture.field->SetValue(Wide(text));
         CHECK(fixture.dialog.GetVarName() == text);
     }
     AsciiLocale const ascii;
-    fixture.field->SetValue(Wide("Z\xC3\xBCrich"));
+    fixture.field->SetValue(Wide(ZURICH));
     CHECK(fixture.dialog.GetVarName().empty());
 }
 
 TEST_CASE("store element dialog: what does not convert is left out of the sentence")
 {
     AsciiLocale const ascii;
-    StoreFixture fixture({"Z\xC3\xBCrich", "m", "Z\xC3\xBCrich", "Z\xC3\xBCrich", "Z\xC3\xBCrich", "Z\xC3\xBCrich"});
-    CheckFrame(fixture.dialog, "Store model element to dataset", "Storing  from model \"m\" in dataset \"\".",
-               320);
+    StoreFixture fixture({ZURICH, "m", ZURICH, ZURICH, ZURICH, ZURICH});
+    CheckFrame(fixture.dialog, "Store model element to dataset",
+               "Storing  from model \"m\" in dataset \"\".", 320);
     CHECK(fixture.field->GetValue().empty());
 }
 

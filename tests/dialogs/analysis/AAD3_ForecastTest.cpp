@@ -7,6 +7,7 @@
 
 using namespace action_checks;
 using number_grid_checks::ColLabels;
+using number_grid_checks::Column;
 using number_grid_checks::RowLabels;
 using number_grid_checks::Texts;
 
@@ -130,11 +131,11 @@ TEST_CASE("forecast dialog: three entries are a model whose variables have no na
 
 TEST_CASE("forecast dialog: the last entry is not read, and only the third can say that there are none")
 {
-    ForecastFixture fixture({"var", "", "oil", SENTINEL, "", "Z\xC3\xBCrich", "the end"});
+    ForecastFixture fixture({"var", "", "oil", SENTINEL, "", ZURICH, "the end"});
     CHECK(fixture.custom->IsEnabled());
     fixture.PressDefine(wxID_CANCEL,
                         [](wxGrid* grid)
-                        { CHECK(ColLabels(grid) == Texts{"oil", SENTINEL, "", Wide("Z\xC3\xBCrich")}); });
+                        { CHECK(ColLabels(grid) == Texts{"oil", SENTINEL, "", Wide(ZURICH)}); });
 
     ForecastFixture ended({"var", "", "oil", SENTINEL});
     ended.PressDefine(wxID_CANCEL, [](wxGrid* grid) { CHECK(ColLabels(grid) == Texts{"oil"}); });
@@ -157,7 +158,7 @@ TEST_CASE("forecast dialog: values that were never defined")
     ForecastFixture fixture;
     Choose(fixture.custom);
     CHECK(fixture.dialog.GetExogValues() == ",\n\t\"W\"=[\t]\n\t");
-    InputFormat const format(Eigen::IOFormat(6, 0, ", ", "; ", "(", ")", "begin ", " end"));
+    InputFormat const format(WORDED);
     CHECK(fixture.dialog.GetExogValues() == ",\n\t\"W\"=[\tbegin  end]\n\t");
 }
 
@@ -187,12 +188,11 @@ TEST_CASE("forecast dialog: accepted values in the engine's format")
     fixture.PressDefine(wxID_OK, [](wxGrid* grid) { grid->SetCellValue(1, 0, "-0.123456789"); });
     CHECK(dialog.GetExogValues() == ",\n\t\"W\"=[\t11, 12; -0.123456789, 22]\n\t");
     {
-        InputFormat const format(Eigen::IOFormat(3, 0, "\t", "\n", "", "", "", ""));
+        InputFormat const format(TABBED);
         CHECK(dialog.GetExogValues() == ",\n\t\"W\"=[\t    11\t    12\n-0.123\t    22]\n\t");
     }
     {
-        InputFormat const format(
-            Eigen::IOFormat(Eigen::StreamPrecision, Eigen::DontAlignCols, " ; ", "|", "<", ">", "{\n", "\n}"));
+        InputFormat const format(FRAMED);
         CHECK(dialog.GetExogValues() == ",\n\t\"W\"=[\t{\n<11 ; 12>|<-0.123457 ; 22>\n}]\n\t");
     }
     CHECK(dialog.GetExogValues() == ",\n\t\"W\"=[\t11, 12; -0.123456789, 22]\n\t");
@@ -208,8 +208,8 @@ TEST_CASE("forecast dialog: a longer horizon adds rows of zeros")
                         [](wxGrid* grid)
                         {
                             CHECK(RowLabels(grid) == Texts{"T+1", "T+2", "T+3", "T+4", "T+5"});
-                            CHECK(number_grid_checks::Column(grid, 0) == Texts{"11", "21", "31", "0", "0"});
-                            CHECK(number_grid_checks::Column(grid, 1) == Texts{"12", "22", "32", "0", "0"});
+                            CHECK(Column(grid, 0) == Texts{"11", "21", "31", "0", "0"});
+                            CHECK(Column(grid, 1) == Texts{"12", "22", "32", "0", "0"});
                         });
     CHECK(fixture.dialog.GetExogValues()
           == ",\n\t\"W\"=[\t11, 12; 21, 22; 31, 32; 0, 0; 0, 0]\n\t");
@@ -222,7 +222,7 @@ TEST_CASE("forecast dialog: a shorter horizon hides rows until it is accepted")
     fixture.periods->SetValue(2);
     auto const shown = [](wxGrid* grid)
     {
-        CHECK(number_grid_checks::Column(grid, 0) == Texts{"11", "21"});
+        CHECK(Column(grid, 0) == Texts{"11", "21"});
         grid->SetCellValue(0, 0, "9");
     };
     fixture.PressDefine(wxID_CANCEL, shown);
@@ -243,9 +243,8 @@ TEST_CASE("forecast dialog: a thousand names and 999 periods")
                             [&](wxGrid* grid)
                             {
                                 REQUIRE(grid->GetNumberCols() == 1000);
-                                for (int col = 0; col < 1000; ++col)
-                                    CHECK(grid->GetColLabelValue(col)
-                                          == Wide(names[static_cast<std::size_t>(col)]));
+                                for (std::size_t i = 0; i < names.size(); ++i)
+                                    CHECK(grid->GetColLabelValue(static_cast<int>(i)) == Wide(names[i]));
                                 grid->SetCellValue(0, 999, "1");
                             });
         std::string zeros;

@@ -37,10 +37,10 @@ TEST_CASE("predictions a: layout")
 
 TEST_CASE("predictions a: an empty note is shown, and entries behind it are not read")
 {
-    Fixture fixture({LONG_MODEL, "\xE6\x97\xA5\xE6\x9C\xAC", "", "Z\xC3\xBCrich", "", "x", SENTINEL});
+    Fixture fixture({LONG_MODEL, NIPPON, "", ZURICH, "", "x", SENTINEL});
     auto const parts = CheckLayout(fixture, 0);
     CHECK(parts.size() == 4);
     CheckNote(fixture.dialog, parts, "");
     CHECK(FindAll<wxRadioButton>(&fixture.dialog).size() == 2);
-    CHECK(fixture.dialog.GetVarName() == ", \"prefix\" = Z\xC3\xBCrich");
+    CHECK(fixture.dialog.GetVarName() == ", \"prefix\" = " + ZURICH);
 }

@@ -38,10 +38,10 @@ TEST_CASE("predictions b: layout")
 
 TEST_CASE("predictions b: without a note there is none")
 {
-    Fixture fixture({LONG_MODEL, "cars", "Prefix:", "p_", "", "\xE6\x97\xA5\xE6\x9C\xAC", SENTINEL, "x", "y"});
+    Fixture fixture({LONG_MODEL, "cars", "Prefix:", "p_", "", NIPPON, SENTINEL, "x", "y"});
     auto const parts = CheckLayout(fixture, 1);
     CHECK(parts.size() == 3);
-    CheckTypeBox(parts[0], "Type of predictions to be generated", {Wide("\xE6\x97\xA5\xE6\x9C\xAC"), SENTINEL});
+    CheckTypeBox(parts[0], "Type of predictions to be generated", {Wide(NIPPON), SENTINEL});
     CheckNoNote(fixture.dialog);
     CheckCentre(fixture.dialog, wxSize(400, 300));
 }

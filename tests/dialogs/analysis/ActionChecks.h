@@ -28,8 +28,21 @@ using Items = std::vector<wxSizerItem*>;
 constexpr char SENTINEL[] = "__Zenqo_SYSTEM_DEFAULT_STRING___";
 constexpr char BROKEN[] = "This is a Zenqo internal error!";
 
-/// A name of a model for which a sentence needs another line if it is wrapped at 320 pixels than if at 380.
-constexpr char LONG_MODEL[] = "a very long name of a model of the demand for Z\xC3\xBCrich's money that goes on";
+/// Names outside ASCII.
+std::string const ZURICH = "Z\xC3\xBCrich";
+std::string const NIPPON = "\xE6\x97\xA5\xE6\x9C\xAC";
+
+/// A name of a model with which sentences break otherwise at 320 pixels than at 380.
+std::string const LONG_MODEL
+    = "a very long name of a model of the demand for " + ZURICH + "'s money that goes on";
+
+/// Formats in which the engine may want its input.
+///@{
+Eigen::IOFormat const TABBED(3, 0, "\t", "\n");
+Eigen::IOFormat const FRAMED(Eigen::StreamPrecision, Eigen::DontAlignCols, " ; ", "|", "<", ">", "{\n",
+                             "\n}");
+Eigen::IOFormat const WORDED(6, 0, ", ", "; ", "(", ")", "begin ", " end");
+///@}
 
 inline wxString Wide(std::string const& text) { return wxString::FromUTF8(text); }
 
@@ -56,6 +69,9 @@ inline Items CheckFrame(wxDialog& dialog, wxString const& title, std::string con
     REQUIRE(text);
     CHECK(text->GetParent() == &dialog);
     CHECK(text->GetLabel() == Wrapped(dialog.GetParent(), Wide(sentence), width));
+    // The dialogs have one of two widths, and this name tells them apart.
+    if (sentence.find(LONG_MODEL) != std::string::npos)
+        CHECK(text->GetLabel() != Wrapped(dialog.GetParent(), Wide(sentence), 700 - width));
     CHECK(PlacementOf(Item(sizer, 0)) == Placement{0, wxEXPAND | wxALL, 7});
     dialog_checks::CheckRunAndCancel(Item(sizer, count - 1), dialog, "&OK");
     CHECK(dialog.FindWindow(wxID_OK)->GetParent() == &dialog);
@@ -100,8 +116,9 @@ inline void CheckNoNote(wxDialog const& dialog)
 inline void CheckCentre(wxDialog const& dialog, wxSize const& size)
 {
     wxRect const parent = dialog.GetParent()->GetScreenRect();
-    wxPoint const expected(parent.x + (parent.width - size.x) / 2, parent.y + (parent.height - size.y) / 2);
-    wxPoint const off = dialog.GetPosition() - expected;
+    wxSize const around = parent.GetSize() - size;
+    wxPoint const off
+        = dialog.GetPosition() - parent.GetPosition() - wxPoint(around.x / 2, around.y / 2);
     INFO("off by " << off.x << ", " << off.y);
     CHECK(std::abs(off.x) <= 1);
     CHECK(std::abs(off.y) <= 1);
@@ -163,9 +180,9 @@ inline void CheckTypeBox(wxSizerItem const* item, wxString const& caption,
     bool const three = labels.size() == 3;
     auto* const grid = CheckEvenGrid(inner->GetSizer(), three ? 2 : 1, 2);
     REQUIRE(grid->GetItemCount() == (three ? 4 : 2));
-    std::vector<int> const gaps = three
-                                      ? std::vector<int>{wxLEFT | wxTOP, wxRIGHT | wxTOP, wxLEFT | wxBOTTOM}
-                                      : std::vector<int>{wxALL, wxALL};
+    std::vector<int> gaps(labels.size(), wxALL);
+    if (three)
+        gaps = {wxLEFT | wxTOP, wxRIGHT | wxTOP, wxLEFT | wxBOTTOM};
     wxFont const font(wxNORMAL_FONT->GetPointSize(), static_cast<wxFontFamily>(73), wxFONTSTYLE_ITALIC,
                       wxFONTWEIGHT_NORMAL, false, "Courier 10 Pitch");
     for (std::size_t i = 0; i < labels.size(); ++i)
@@ -223,7 +240,8 @@ inline void CheckHorizon(wxSizerItem const* item, wxString const& label, int per
 }
 
 /// The row of boxes side by side, `shape` with a gap of 5 pixels between them.
-inline wxSizer* CheckBoxRow(Items const& parts, int proportion, std::string const& shape, std::size_t boxes)
+inline wxSizer* CheckBoxRow(Items const& parts, int proportion, std::string const& shape,
+                            std::size_t boxes)
 {
     REQUIRE(!parts.empty());
     CHECK(PlacementOf(parts[0]) == Placement{proportion, wxEXPAND | wxALL, 5});
@@ -255,8 +273,8 @@ inline void Choose(wxRadioButton* button)
     button->ProcessWindowEvent(event);
 }
 
-/// Does `press`, which makes `dialog` ask in another one, of which it is the parent; there `fill` is done
-/// to the grid, and it answers `id` without having been on screen. Gives the other one.
+/// Does `press`, which makes `dialog` ask in another one, of which it is the parent; there `fill` is
+/// done to the grid, and it answers `id` without having been on screen. Gives the other one.
 template <class Asked, class Grid>
 Asked* AnswerAsked(wxDialog& dialog, wxString const& title, std::function<void()> const& press, int id,
                    std::function<void(wxGrid*)> const& fill)
@@ -303,14 +321,15 @@ void CheckNameCheck(Dialog& dialog, wxTextCtrl* field, char const* missing, char
                   g_checkedIds.clear();
                   refuses("", missing);
                   CHECK(g_checkedIds.empty());
-                  for (char const* bad : {" ", "a b", " a", "2nd", "1", "a.b", "x-y", "Z\xC3\xBCrich", "\t"})
-                      refuses(Wide(bad), illegal);
-                  CHECK(g_checkedIds.size() == 9);
+                  Arguments const bad = {" ", "a b", " a", "2nd", "1", "a.b", "x-y", ZURICH, "\t"};
+                  for (auto const& name : bad)
+                      refuses(Wide(name), illegal);
+                  CHECK(g_checkedIds == bad);
                   {
                       // What has no narrow form is an empty name to the engine, but not to the dialog.
                       AsciiLocale const ascii;
                       g_checkedIds.clear();
-                      refuses(Wide("Z\xC3\xBCrich"), illegal);
+                      refuses(Wide(ZURICH), illegal);
                       CHECK(g_checkedIds == Arguments{""});
                   }
                   for (char const* good : {"p_", "x", "_", "a1", "ABC_2"})
@@ -351,7 +370,7 @@ inline Arguments Joined(Arguments list, Arguments const& more)
 /// So many names, the first of them odd.
 inline Arguments ManyNames(int count)
 {
-    Arguments names = {"", " ", "Z\xC3\xBCrich", "\xE6\x97\xA5\xE6\x9C\xAC", "a&b", "%s", "a\nb"};
+    Arguments names = {"", " ", ZURICH, NIPPON, "a&b", "%s", "a\nb"};
     for (int i = static_cast<int>(names.size()); i < count; ++i)
         names.push_back("x" + std::to_string(i));
     return names;

@@ -8,13 +8,14 @@ namespace predict_checks
 using namespace action_checks;
 
 constexpr char NO_PREFIX[] = "Please provide a prefix for the new variable names.";
-constexpr char BAD_PREFIX[] = "The variable name prefix must not contain\nspaces or special characters and it "
-                              "must not\nbegin with a number.";
+constexpr char BAD_PREFIX[] = "The variable name prefix must not contain\nspaces or special characters "
+                              "and it must not\nbegin with a number.";
 
 template <class Dialog>
 struct PredictFixture
 {
-    explicit PredictFixture(Arguments given = {"probit", "cars", "Prefix:", "p_", "A note.", "P(y = 1)", "x'b"})
+    explicit PredictFixture(Arguments given = {"probit", "cars", "Prefix:", "p_", "A note.", "P(y = 1)",
+                                               "x'b"})
         : arguments(std::move(given))
     {
     }
@@ -27,8 +28,8 @@ struct PredictFixture
     wxRadioButton* draws = Radio(dialog, "each draw from the posterior");
 };
 
-/// Layout of what both have, which begins with part `first`; gives the parts between the sentence and the
-/// buttons.
+/// Layout of what both have, which begins with part `first`; gives the parts between the sentence and
+/// the buttons.
 template <class Dialog>
 Items CheckLayout(PredictFixture<Dialog>& fixture, std::size_t first)
 {
@@ -43,7 +44,8 @@ Items CheckLayout(PredictFixture<Dialog>& fixture, std::size_t first)
                                  {0, wxEXPAND | wxALL, 7});
     CHECK(Shape(inner->GetSizer()) == "2 rows, 1 column, not flexible in both directions");
     CHECK(dynamic_cast<wxFlexGridSizer*>(inner->GetSizer())->GetFlexibleDirection() == wxVERTICAL);
-    CheckRadioPair(inner->GetSizer(), "posterior mean of the parameters", "each draw from the posterior");
+    CheckRadioPair(inner->GetSizer(), "posterior mean of the parameters",
+                   "each draw from the posterior");
     CHECK(fixture.mean->GetValue());
     CheckNameRow(parts[first + 1], Wide(arguments[2]), Wide(arguments[3]));
     return parts;
@@ -53,7 +55,7 @@ template <class Dialog>
 void CheckPrefix()
 {
     PredictFixture<Dialog> fixture;
-    auto const says = [&](char const* prefix)
+    auto const says = [&](std::string const& prefix)
     {
         fixture.prefix->SetValue(Wide(prefix));
         return fixture.dialog.GetVarName();
@@ -66,11 +68,11 @@ void CheckPrefix()
     CHECK(says("p__") == ", \"prefix\" = p__");
     CHECK(says(" p_") == ", \"prefix\" =  p_");
     CHECK(says("") == ", \"prefix\" = ");
-    CHECK(says("Z\xC3\xBCrich") == ", \"prefix\" = Z\xC3\xBCrich");
+    CHECK(says(ZURICH) == ", \"prefix\" = " + ZURICH);
     CHECK(says("p_").empty());
     CHECK(says("p_").empty());
     AsciiLocale const ascii;
-    CHECK(says("Z\xC3\xBCrich") == ", \"prefix\" = ");
+    CHECK(says(ZURICH) == ", \"prefix\" = ");
 }
 
 template <class Dialog>
