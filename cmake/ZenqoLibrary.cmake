@@ -15,6 +15,12 @@ set(zenqo_public_classes
   dialogs/analysis/CompareModelsDialog
   dialogs/analysis/PlotDrawsDialog
   dialogs/analysis/TestParametersDialog
+  dialogs/application/AboutZenqo
+  dialogs/application/DirectoriesDialog
+  dialogs/application/ExportFigureDialog
+  dialogs/application/ExportMatrixDialog
+  dialogs/application/OptionsDialog
+  dialogs/application/StartupHelpDialog
   dialogs/data/ClearDatasetDialog
   dialogs/data/ClearVariableDialog
   dialogs/data/CreateVariableDialog
@@ -90,6 +96,8 @@ set(zenqo_private_sources
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
   common/ExpressionBox.cpp
+  common/FilePath.cpp
+  common/FittedDialog.cpp
   common/GridSize.cpp
   common/LabelColours.cpp
   common/Lags.cpp

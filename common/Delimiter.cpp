@@ -1,14 +1,17 @@
 #include "common/Delimiter.h"
 
 #include <wx/radiobox.h>
+#include <wx/sizer.h>
 
 #include "common/RadioBox.h"
 
 namespace zenqo
 {
-wxRadioBox* MakeDelimiterBox(wxWindow* parent)
+wxRadioBox* AddDelimiterBox(wxWindow* parent, wxSizer* sizer)
 {
-    return MakeRadioBox(parent, "Delimiter", {"Comma", "Semicolon", "Tab"});
+    auto* const box = MakeRadioBox(parent, "Delimiter", {"Comma", "Semicolon", "Tab"});
+    sizer->Add(box, 0, wxEXPAND | wxALL, 5);
+    return box;
 }
 
 char SelectedDelimiter(wxRadioBox const* box)

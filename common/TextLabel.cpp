@@ -4,9 +4,9 @@
 
 namespace zenqo
 {
-wxStaticText* MakeTextLabel(wxWindow* parent, wxString const& label, wxSize const& size)
+wxStaticText* MakeTextLabel(wxWindow* parent, wxString const& label, wxSize const& size, long style)
 {
-    auto* const text = new wxStaticText(parent, wxID_ANY, label, wxDefaultPosition, size);
+    auto* const text = new wxStaticText(parent, wxID_ANY, label, wxDefaultPosition, size, style);
     text->Wrap(-1);
     return text;
 }

@@ -7,6 +7,6 @@ class wxWindow;
 
 namespace zenqo
 {
-/// A line of text of the stated size, which keeps the line breaks that `label` has.
-wxStaticText* MakeTextLabel(wxWindow* parent, wxString const& label, wxSize const& size);
+/// A text of the stated size and window style, which keeps the line breaks that `label` has.
+wxStaticText* MakeTextLabel(wxWindow* parent, wxString const& label, wxSize const& size, long style = 0);
 } // namespace zenqo

@@ -19,6 +19,7 @@ std::vector<Entry> AllEntries()
           DataDialogEntries(),
           AnalysisDialogEntries(),
           PostEstimationEntries(),
+          ApplicationDialogEntries(),
           PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());
     return all;

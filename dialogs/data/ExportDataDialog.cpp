@@ -1,11 +1,11 @@
 #include "dialogs/data/ExportDataDialog.h"
 
-#include <wx/filename.h>
 #include <wx/filepicker.h>
 #include <wx/radiobox.h>
 
 #include "common/Delimiter.h"
 #include "common/DialogFrame.h"
+#include "common/FilePath.h"
 #include "common/MapKeys.h"
 #include "common/SaveFileBox.h"
 #include "common/Text.h"
@@ -19,10 +19,8 @@ ExportDataDialog::ExportDataDialog(wxWindow* parent, DatasetMap* datasets, int s
     m_dataset = new DatasetPicker(box->GetStaticBox());
     box->Add(m_dataset, 2, wxEXPAND, 5);
     m_file = zenqo::AddSaveFileBox(this, sizer, wxEmptyString);
-    m_delimiter = zenqo::MakeDelimiterBox(this);
-    sizer->Add(m_delimiter, 0, wxEXPAND | wxALL, 5);
-    zenqo::AddButtonRow(this, sizer, "&Export", 1,
-                        wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM);
+    m_delimiter = zenqo::AddDelimiterBox(this, sizer);
+    zenqo::AddExportButtons(this, sizer);
 
     m_dataset->SetChoices(m_names);
     auto const count = static_cast<int>(m_names.size());
@@ -33,10 +31,7 @@ ExportDataDialog::ExportDataDialog(wxWindow* parent, DatasetMap* datasets, int s
 
 std::string ExportDataDialog::GetDatasetName() const { return m_dataset->GetSelectionString(); }
 
-wxString ExportDataDialog::GetPath() const
-{
-    return wxFileName(m_file->GetPath()).GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
-}
+wxString ExportDataDialog::GetPath() const { return zenqo::FolderOf(m_file); }
 
 std::string ExportDataDialog::GetFileName() const { return zenqo::ToNarrow(m_file->GetPath()); }
 
@@ -56,4 +51,7 @@ void ExportDataDialog::Select(int index)
     m_dataset->SetCurrentSelection(index);
 }
 
-void ExportDataDialog::ProposeFile(wxString const& name) { m_file->SetPath("./" + name + ".csv"); }
+void ExportDataDialog::ProposeFile(wxString const& name)
+{
+    m_file->SetPath(zenqo::ProposedFile(name));
+}

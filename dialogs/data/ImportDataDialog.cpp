@@ -19,7 +19,6 @@ ImportDataDialog::ImportDataDialog(wxWindow* parent, wxString& name)
     label->Wrap(-1);
     m_name = new wxTextCtrl(this, wxID_ANY, name, wxDefaultPosition, wxSize(160, 23));
     m_name->SetFocus();
-    m_delimiter = zenqo::MakeDelimiterBox(this);
 
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     zenqo::AddWithFlags(row, label, 1, wxEXPAND | wxALIGN_BOTTOM, 0);
@@ -29,7 +28,7 @@ ImportDataDialog::ImportDataDialog(wxWindow* parent, wxString& name)
 
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(rows, 0, wxEXPAND | wxALL, 5);
-    sizer->Add(m_delimiter, 0, wxEXPAND | wxALL, 5);
+    m_delimiter = zenqo::AddDelimiterBox(this, sizer);
     auto* const import = zenqo::AddButtonRow(this, sizer, "&Import", 1,
                                              wxTOP | wxBOTTOM | wxALIGN_RIGHT | wxALIGN_BOTTOM);
     // Enter in the name field accepts.
