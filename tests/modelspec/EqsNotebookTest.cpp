@@ -1,12 +1,10 @@
 #include "modelspec/EqsNotebook.h"
 
 #include <algorithm>
-#include <fstream>
-
-#include <wx/filename.h>
 
 #include "modelspec/EqsNotebookPage.h"
 #include "modelspec/RoleChecks.h"
+#include "support/InstalledIcon.h"
 #include "support/TabClicks.h"
 
 using namespace role_checks;
@@ -58,38 +56,6 @@ void AddUntil(EqsNotebook* notebook, std::size_t count)
 {
     while (notebook->GetPageCount() < count + 1)
         notebook->SetSelection(notebook->GetPageCount() - 1);
-}
-
-/// A root of an installation with the file `content` for a plus icon, while it lives.
-class InstallationWithIcon
-{
-public:
-    explicit InstallationWithIcon(std::string const& content)
-        : m_before(Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM), m_root(wxFileName::CreateTempFileName("zenqo-icon"))
-    {
-        wxRemoveFile(m_root);
-        wxString const folder = m_root + "/System Files/Icons";
-        wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-        std::ofstream((folder + "/i_plus.png").ToStdString(), std::ios::binary) << content;
-        Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM = m_root.ToStdString();
-    }
-    ~InstallationWithIcon()
-    {
-        Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM = m_before;
-        wxFileName::Rmdir(m_root, wxPATH_RMDIR_RECURSIVE);
-    }
-
-private:
-    std::string m_before;
-    wxString m_root;
-};
-
-std::string PlusIcon()
-{
-    wxString source;
-    REQUIRE(wxGetEnv("ZENQO_SOURCE_DIR", &source));
-    std::ifstream file((source + "/workbench/icons/i_plus.png").ToStdString(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 } // namespace
 
@@ -375,13 +341,13 @@ TEST_CASE("equations notebook: the plus tab shows its icon, and a missing one is
     Stage stage;
     auto const iconOf = [&](std::string const& content)
     {
-        InstallationWithIcon const installation(content);
+        InstalledIcon const installed("i_plus.png", content);
         auto* const notebook = MakeNotebook(stage);
         wxBitmap const icon = notebook->GetPageBitmap(1);
         notebook->Destroy();
         return icon.IsOk() ? icon.GetSize() : wxSize(0, 0);
     };
-    std::string const icon = PlusIcon();
+    std::string const icon = IconInSource("i_plus.png");
     REQUIRE(icon.size() > 50);
     CHECK(iconOf(icon) == wxSize(16, 16));
     CHECK(iconOf("") == wxSize(0, 0));
