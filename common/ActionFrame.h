@@ -3,6 +3,7 @@
 #include <string>
 
 #include <wx/dialog.h>
+#include <wx/frame.h>
 
 #include "common/DialogFrame.h"
 #include "common/Text.h"
