@@ -3,7 +3,6 @@
 #include "dialogs/analysis/ActionChecks.h"
 #include "modelspec/ExogValuesDialog.h"
 #include "modelspec/ExogValuesGrid.h"
-#include "modelspec/NumberGridChecks.h"
 
 using namespace action_checks;
 using number_grid_checks::ColLabels;
@@ -296,16 +295,6 @@ TEST_CASE("forecast dialog: values given by hand")
 {
     ForecastFixture fixture({"var", "A note.", "oil", "rate", ""});
     auto& dialog = fixture.dialog;
-    auto const defineValues = [&]
-    {
-        auto* const shown = Find<ExogValuesDialog>(&dialog);
-        number_grid_checks::GoTo(Find<ExogValuesGrid>(shown), 0, 0);
-        TypeText("1.5");
-        Press(WXK_TAB);
-        TypeText("-2");
-        Press(WXK_RETURN);
-        Click(shown->FindWindow(wxID_OK));
-    };
     CHECK(RunDialog(dialog,
               [&]
               {
@@ -315,7 +304,7 @@ TEST_CASE("forecast dialog: values given by hand")
                   Keep(Photograph(&dialog), "AAD3_Forecast");
                   Click(dialog.FindWindow(wxID_OK));
               },
-              {OnScreen(defineValues)})
+              {TypingTwo<ExogValuesDialog>(dialog, WXK_TAB)})
           == wxID_OK);
     CHECK(dialog.GetExogValues() == ",\n\t\"W\"=[\t1.5, -2]\n\t");
     CheckWaysOut(dialog);

@@ -10,6 +10,7 @@
 #include <wx/textctrl.h>
 
 #include "dialogs/data/DialogChecks.h"
+#include "modelspec/NumberGridChecks.h"
 #include "pickers/NotePanel.h"
 #include "support/AsciiLocale.h"
 #include "support/EngineForTests.h"
@@ -294,6 +295,24 @@ Asked* AnswerAsked(wxDialog& dialog, wxString const& title, std::function<void()
     CHECK(script.Shown()[0].parent == &dialog);
     CHECK(script.Shown()[0].caption == title);
     return asked;
+}
+
+/// The answer of a user who types 1.5 and -2 into the grid of a dialog below `dialog`, with `key` between
+/// the two, and accepts.
+template <class Asked>
+ModalScript::Answer TypingTwo(wxDialog const& dialog, int key)
+{
+    return OnScreen(
+        [&dialog, key]
+        {
+            auto* const shown = Find<Asked>(&dialog);
+            number_grid_checks::GoTo(Find<wxGrid>(shown), 0, 0);
+            TypeText("1.5");
+            Press(key);
+            TypeText("-2");
+            Press(WXK_RETURN);
+            Click(shown->FindWindow(wxID_OK));
+        });
 }
 
 /// Adds a button to the group of `member`, selects it, and so leaves the dialog with a group of which

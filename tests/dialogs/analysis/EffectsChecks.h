@@ -1,7 +1,6 @@
 #pragma once
 
 #include "dialogs/analysis/ActionChecks.h"
-#include "modelspec/NumberGridChecks.h"
 #include "modelspec/PriorGrid.h"
 #include "modelspec/UserPointDialog.h"
 
@@ -222,16 +221,6 @@ void CheckByHand(wxString const& photograph)
 {
     EffectsFixture<Dialog> fixture({"educ", "age"}, "A note.");
     auto& dialog = fixture.dialog;
-    auto const definePoint = [&]
-    {
-        auto* const shown = Find<UserPointDialog>(&dialog);
-        number_grid_checks::GoTo(Find<PriorGrid>(shown), 0, 0);
-        TypeText("1.5");
-        Press(WXK_RETURN);
-        TypeText("-2");
-        Press(WXK_RETURN);
-        Click(shown->FindWindow(wxID_OK));
-    };
     CHECK(RunDialog(dialog,
               [&]
               {
@@ -251,7 +240,7 @@ void CheckByHand(wxString const& photograph)
                   Click(fixture.custom);
                   Click(dialog.FindWindow(wxID_OK));
               },
-              {OnScreen(definePoint)})
+              {TypingTwo<UserPointDialog>(dialog, WXK_RETURN)})
           == wxID_OK);
     CHECK(dialog.GetPoint() == ",\n\t\"point\"=[1.5, -2]\n\t");
     CheckWaysOut(dialog);
