@@ -88,6 +88,20 @@ inline void CheckWaysOut(wxDialog& dialog)
     CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
 }
 
+/// Where there is nothing to choose from, the button that moves does nothing and "Run" is refused.
+inline void CheckNothingToChoose(wxDialog& dialog, wxButton* move, wxString const& warning)
+{
+    int const answer = RunDialog(dialog,
+                                 [&]
+                                 {
+                                     Click(move);
+                                     CheckRefused(dialog, warning,
+                                                  [&] { Click(dialog.FindWindow(wxID_OK)); });
+                                     Press(WXK_ESCAPE);
+                                 });
+    CHECK(answer == wxID_CANCEL);
+}
+
 /// The Tab key goes through `controls`, to "Cancel" and "Run" and to the dataset's row, and then to
 /// the first again.
 inline void CheckTabs(wxDialog& dialog, std::vector<wxWindow*> controls)

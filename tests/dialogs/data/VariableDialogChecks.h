@@ -117,14 +117,7 @@ void NoDatasets()
     auto& dialog = fixture.dialog;
     CHECK(dialog.GetDatasetName().empty());
     CHECK(dialog.GetVarNames() == Names({""}));
-    int const answer = RunDialog(dialog,
-                                 [&]
-                                 {
-                                     Click(fixture.controls.Button(0));
-                                     CheckRefused(dialog, NONE_SELECTED, [&] { Click(fixture.Run()); });
-                                     Press(WXK_ESCAPE);
-                                 });
-    CHECK(answer == wxID_CANCEL);
+    CheckNothingToChoose(dialog, fixture.controls.Button(0), NONE_SELECTED);
 }
 
 /// The Tab key goes through the controls from top to bottom and from left to right; `extra` stand
