@@ -30,6 +30,11 @@ set(zenqo_public_classes
   dialogs/data/PlotDataDialog
   dialogs/data/SortDataDialog
   dialogs/data/SummarizeDataDialog
+  dialogs/external/BUGSDialog
+  dialogs/external/InitsNotebook
+  dialogs/external/InitsNotebookPage
+  dialogs/external/JAGSDialog
+  dialogs/external/StanDialog
   modelspec/Calculator
   modelspec/EqsNotebook
   modelspec/EqsNotebookPage
@@ -95,6 +100,7 @@ set(zenqo_private_sources
   common/DialogFrame.cpp
   common/DisplayGrid.cpp
   common/DroppedFile.cpp
+  common/ExampleLine.cpp
   common/ExpressionBox.cpp
   common/FilePath.cpp
   common/FittedDialog.cpp
@@ -117,7 +123,9 @@ set(zenqo_private_sources
   common/RemainingTime.cpp
   common/RoleGrid.cpp
   common/RoleLists.cpp
+  common/SamplerDialog.cpp
   common/SamplerRows.cpp
+  common/SamplerSettings.cpp
   common/SaveFileBox.cpp
   common/ScriptEvent.cpp
   common/SystemIcon.cpp

@@ -61,6 +61,12 @@ void LayOutDialog(wxDialog* dialog, wxSizer* sizer, int rounds)
     }
 }
 
+void DeleteInOrder(std::initializer_list<wxWindow*> windows)
+{
+    for (wxWindow* const window : windows)
+        delete window;
+}
+
 wxString ComplainOfNone(wxArrayString const& names, wxString const& what)
 {
     return names[0].empty() ? "No " + what + " have been selected." : wxString();

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <initializer_list>
+
 #include <wx/dialog.h>
+#include <wx/frame.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
 
@@ -8,6 +11,10 @@ class wxButton;
 
 namespace zenqo
 {
+/// The window style of a dialog that asks how another program is to be run.
+inline constexpr long PROGRAM_DIALOG_STYLE
+    = wxDEFAULT_DIALOG_STYLE | wxFRAME_TOOL_WINDOW | wxFRAME_FLOAT_ON_PARENT;
+
 /// Adds to `sizer` the row of buttons that ends a dialog, the one that accepts (`wxID_OK`, with the
 /// label `acceptLabel`) and "&Cancel" (`wxID_CANCEL`), and returns the first of the two.
 wxButton* AddButtonRow(wxDialog* dialog, wxSizer* sizer, wxString const& acceptLabel, int proportion,
@@ -24,15 +31,20 @@ wxFlexGridSizer* AddGrowingCell(wxSizer* sizer);
 wxStaticBoxSizer* AddLabelledBox(wxWindow* parent, wxSizer* sizer, wxString const& label,
                                  int proportion = 0, int flags = wxEXPAND | wxALL, int border = 5);
 
-/// Adds to `sizer` a box with `label` around a picker that is made of `arguments`.
+/// Makes a picker of `arguments` and lets it fill `box`.
 template <class Picker, class... Arguments>
-Picker* AddBoxedPicker(wxDialog* dialog, wxSizer* sizer, wxString const& label,
-                       Arguments const&... arguments)
+Picker* FillBox(wxStaticBoxSizer* box, Arguments... arguments)
 {
-    auto* const box = AddLabelledBox(dialog, sizer, label);
     auto* const picker = new Picker(box->GetStaticBox(), arguments...);
     box->Add(picker, 1, wxEXPAND, 5);
     return picker;
+}
+
+/// Adds to `sizer` a box with `label` around a picker that is made of `arguments`.
+template <class Picker, class... Arguments>
+Picker* AddBoxedPicker(wxDialog* dialog, wxSizer* sizer, wxString const& label, Arguments... arguments)
+{
+    return FillBox<Picker>(AddLabelledBox(dialog, sizer, label), arguments...);
 }
 
 /// The end of a dialog's constructor: gives it its sizer, lays it out and centres it, and repeats
@@ -51,6 +63,9 @@ void LayOutAroundNote(wxDialog* dialog, wxSizer* sizer, Note* note)
     sizer->SetSizeHints(dialog);
     dialog->Centre(wxBOTH);
 }
+
+/// For a dialog's destructor: deletes some of its controls before the toolkit deletes the others.
+void DeleteInOrder(std::initializer_list<wxWindow*> windows);
 
 /// What is wrong with the names that a picker gives; nothing is if there is one. `what` says what they
 /// are names of.

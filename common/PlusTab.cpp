@@ -1,6 +1,5 @@
 #include "common/PlusTab.h"
 
-#include <wx/aui/auibook.h>
 #include <wx/panel.h>
 
 #include "common/SystemIcon.h"

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <wx/string.h>
-
-class wxAuiNotebook;
-class wxAuiNotebookEvent;
-class wxWindow;
+#include <wx/aui/auibook.h>
 
 namespace zenqo
 {
@@ -17,6 +13,18 @@ extern long const PLUS_NOTEBOOK;
 
 /// Gives the empty notebook its plus page.
 void AddPlusPage(wxAuiNotebook* notebook);
+
+/// Gives the empty notebook its plus page and its handlers, which make the first page at once: they
+/// are told that a page changes, and the plus page is alone.
+template <class Notebook>
+void BeginWithOnePage(Notebook* notebook)
+{
+    AddPlusPage(notebook);
+    notebook->Bind(wxEVT_AUINOTEBOOK_PAGE_CHANGING, &Notebook::OnPageChanging, notebook);
+    notebook->Bind(wxEVT_AUINOTEBOOK_PAGE_CLOSE, &Notebook::OnPageClosing, notebook);
+    wxAuiNotebookEvent event;
+    notebook->OnPageChanging(event);
+}
 
 /// The number of pages before the plus page.
 int CountRealPages(wxAuiNotebook const* notebook);

@@ -19,6 +19,7 @@ std::vector<Entry> AllEntries()
           DataDialogEntries(),
           AnalysisDialogEntries(),
           PostEstimationEntries(),
+          ExternalDialogEntries(),
           ApplicationDialogEntries(),
           PaneEntries()})
         all.insert(all.end(), entries.begin(), entries.end());

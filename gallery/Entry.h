@@ -35,6 +35,7 @@ std::vector<Entry> DataDialogEntries();
 std::vector<Entry> AnalysisDialogEntries();
 std::vector<Entry> PostEstimationEntries();
 std::vector<Entry> ApplicationDialogEntries();
+std::vector<Entry> ExternalDialogEntries();
 std::vector<Entry> PaneEntries();
 
 /// A frame for a widget that is a part of a window. `make` makes the widget with the frame as
@@ -49,6 +50,21 @@ Control* In(wxWindow const* picker)
         if (auto* const control = dynamic_cast<Control*>(child))
             return control;
     return nullptr;
+}
+
+/// All controls of one class in a dialog, however deep, a child's children behind the child.
+template <class Control>
+std::vector<Control*> AllIn(wxWindow const* window)
+{
+    std::vector<Control*> found;
+    for (auto* const child : window->GetChildren())
+    {
+        if (auto* const control = dynamic_cast<Control*>(child))
+            found.push_back(control);
+        auto const below = AllIn<Control>(child);
+        found.insert(found.end(), below.begin(), below.end());
+    }
+    return found;
 }
 
 /// Chooses as the user does, so that the picker hears of it.

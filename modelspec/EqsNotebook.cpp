@@ -15,12 +15,7 @@ EqsNotebook::EqsNotebook(wxWindow* parent, wxArrayString& names, int const& list
     : wxAuiNotebook(parent, wxID_ANY, wxDefaultPosition, wxSize(450, -1), zenqo::PLUS_NOTEBOOK),
       m_availableNames(names), m_names(names), m_listHeight(listHeight)
 {
-    zenqo::AddPlusPage(this);
-    Bind(wxEVT_AUINOTEBOOK_PAGE_CHANGING, &EqsNotebook::OnPageChanging, this);
-    Bind(wxEVT_AUINOTEBOOK_PAGE_CLOSE, &EqsNotebook::OnPageClosing, this);
-    // The plus page is alone, so this makes the first equation.
-    wxAuiNotebookEvent event;
-    OnPageChanging(event);
+    zenqo::BeginWithOnePage(this);
 }
 
 void EqsNotebook::OnDatasetChanged(wxArrayString& names)

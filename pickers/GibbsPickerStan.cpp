@@ -35,3 +35,9 @@ bool GibbsPickerStan::ValidateInput(wxString& message) const
     return zenqo::ValidateSampler({m_burnin, m_chains, m_thin, m_seed}, message)
            && zenqo::ValidateCount(m_refresh, "The refresh rate must be\na positive ineteger.", message);
 }
+
+void GibbsPickerStan::EnableBurnin(bool enable) { m_burnin->Enable(enable); }
+
+void GibbsPickerStan::EnableChains(bool enable) { m_chains->Enable(enable); }
+
+void GibbsPickerStan::EnableThin(bool enable) { m_thin->Enable(enable); }

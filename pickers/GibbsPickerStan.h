@@ -32,6 +32,14 @@ public:
     /// itself: the owner calls this before it accepts, and shows the message.
     bool ValidateInput(wxString& message) const;
 
+    /// Lets the user edit a field or not. All can be edited at first; a field that can't is shown,
+    /// read and validated as before.
+    ///@{
+    void EnableBurnin(bool enable);
+    void EnableChains(bool enable);
+    void EnableThin(bool enable);
+    ///@}
+
 private:
     wxTextCtrl* m_samples;
     wxTextCtrl* m_chains;

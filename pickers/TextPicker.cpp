@@ -1,11 +1,10 @@
 #include "pickers/TextPicker.h"
 
 #include <wx/sizer.h>
-#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "common/ExampleLine.h"
 #include "common/Text.h"
-#include "common/TextLabel.h"
 #include "common/TypewriterFont.h"
 
 TextPicker::TextPicker(wxWindow* parent, wxString& example, int width, int height)
@@ -20,17 +19,9 @@ TextPicker::TextPicker(wxWindow* parent, wxString& example, int width, int heigh
     m_text->SetFont(zenqo::TypewriterFont(10));
     sizer->Add(m_text, 1, wxEXPAND | wxALL, 5);
 
-    auto* const line = new wxFlexGridSizer(1, 2, 0, 0);
-    line->AddGrowableCol(1, 1);
-    sizer->Add(line, 0, wxEXPAND, 5);
-    auto const font = wxFontInfo(wxNORMAL_FONT->GetPointSize()).Family(wxFONTFAMILY_MODERN);
-    auto* const word = zenqo::MakeTextLabel(this, "Example:", wxSize(67, 23));
-    word->SetFont(wxFont(font).Bold());
-    line->Add(word, 0, wxLEFT, 5);
-    auto* const text = zenqo::MakeTextLabel(this, example, wxSize(310, 23));
-    text->SetFont(font);
-    line->Add(text, 0, wxALIGN_BOTTOM | wxLEFT, 2);
-
+    zenqo::AddExampleLine(this, sizer, example,
+                          wxFontInfo(wxNORMAL_FONT->GetPointSize()).Family(wxFONTFAMILY_MODERN),
+                          wxALIGN_BOTTOM | wxLEFT);
     SetSizer(sizer, true);
     Layout();
 }

@@ -14,11 +14,12 @@ namespace dialog_checks
 {
 using namespace role_checks;
 
-/// The vertical sizer of a dialog that has the toolkit's own style.
-inline wxSizer* CheckFrame(wxDialog const& dialog, wxString const& title, std::size_t parts)
+/// The vertical sizer of a dialog, which has the toolkit's own style unless another is told.
+inline wxSizer* CheckFrame(wxDialog const& dialog, wxString const& title, std::size_t parts,
+                           long style = wxDEFAULT_DIALOG_STYLE)
 {
     CHECK(dialog.GetTitle() == title);
-    CHECK((dialog.GetWindowStyle() & ~wxTAB_TRAVERSAL) == wxDEFAULT_DIALOG_STYLE);
+    CHECK((dialog.GetWindowStyle() & ~wxTAB_TRAVERSAL) == style);
     auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
     REQUIRE(sizer);
     CHECK(sizer->GetOrientation() == wxVERTICAL);

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <algorithm>
+
+#include <wx/filepicker.h>
+#include <wx/textctrl.h>
+
+#include "dialogs/data/DialogChecks.h"
+#include "pickers/ScriptPicker.h"
+#include "pickers/TextPicker.h"
+
+/// What all dialogs have in common that ask how another program is to be run.
+namespace program_checks
+{
+using namespace dialog_checks;
+
+/// `wxDEFAULT_DIALOG_STYLE` and two bits of frames.
+constexpr long STYLE = 0x2000180C;
+
+/// The sizer of the box with a caption, which must hold `count` things.
+inline wxStaticBoxSizer* CheckCaptioned(wxSizerItem const* item, Placement const& placement,
+                                        wxString const& label, std::size_t count = 1)
+{
+    CAPTURE(label);
+    CHECK(PlacementOf(item) == placement);
+    auto* const box = dynamic_cast<wxStaticBoxSizer*>(item->GetSizer());
+    REQUIRE(box);
+    CHECK(box->GetOrientation() == wxVERTICAL);
+    CHECK(box->GetStaticBox()->GetLabel() == label);
+    REQUIRE(box->GetItemCount() == count);
+    return box;
+}
+
+/// The picker that fills a box.
+template <class Picker>
+Picker* CheckFilled(wxStaticBoxSizer* box, std::size_t item = 0)
+{
+    auto* const picker = dynamic_cast<Picker*>(Item(box, item)->GetWindow());
+    REQUIRE(picker);
+    CHECK(picker->GetParent() == box->GetStaticBox());
+    CHECK(PlacementOf(Item(box, item)) == Placement{1, wxEXPAND, 5});
+    return picker;
+}
+
+/// The field for names that fills a box: its example and the size of its text.
+inline void CheckTexts(wxStaticBoxSizer* box, wxString const& example, wxSize const& size)
+{
+    auto* const picker = CheckFilled<TextPicker>(box);
+    CHECK(Find<wxStaticText>(picker, 1)->GetLabel() == example);
+    CHECK(Find<wxTextCtrl>(picker)->GetMinSize() == size);
+}
+
+/// The field for a file that fills a box: its label and its width.
+inline void CheckScript(wxStaticBoxSizer* box, wxString const& label, int width)
+{
+    auto* const picker = CheckFilled<ScriptPicker>(box);
+    CHECK(Find<wxStaticText>(picker)->GetLabel() == label);
+    CHECK(Find<wxFilePickerCtrl>(picker)->GetMinSize() == wxSize(width, 27));
+}
+
+/// The field that is filled by typing of the n-th text picker of a dialog.
+inline wxTextCtrl* TextOf(wxWindow const* dialog, std::size_t n)
+{
+    auto* const picker = Find<TextPicker>(dialog, n);
+    REQUIRE(picker);
+    return Find<wxTextCtrl>(picker);
+}
+
+inline wxFilePickerCtrl* ScriptOf(wxWindow const* dialog)
+{
+    return Find<wxFilePickerCtrl>(Find<ScriptPicker>(dialog));
+}
+
+/// Deletes `dialog` and gives those of `windows` that are deleted before the others, in their order.
+/// Each window below the dialog must go once.
+inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*> const& windows)
+{
+    std::vector<wxWindow*> gone;
+    for (auto* const window : FindAll<wxWindow>(dialog))
+        window->Bind(wxEVT_DESTROY,
+                     [&gone, window](wxWindowDestroyEvent& event)
+                     {
+                         if (event.GetEventObject() == window)
+                             gone.push_back(window);
+                         event.Skip();
+                     });
+    auto const count = FindAll<wxWindow>(dialog).size();
+    delete dialog;
+    CHECK(gone.size() == count);
+    auto sorted = gone;
+    std::sort(sorted.begin(), sorted.end());
+    CHECK(std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end());
+    gone.erase(std::remove_if(gone.begin(), gone.end(),
+                              [&](wxWindow* window)
+                              { return std::find(windows.begin(), windows.end(), window) == windows.end(); }),
+               gone.end());
+    return gone;
+}
+} // namespace program_checks
