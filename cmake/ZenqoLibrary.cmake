@@ -34,7 +34,11 @@ set(zenqo_public_classes
   dialogs/external/InitsNotebook
   dialogs/external/InitsNotebookPage
   dialogs/external/JAGSDialog
+  dialogs/external/MatlabDialog
+  dialogs/external/OctaveDialog
+  dialogs/external/RprojectDialog
   dialogs/external/StanDialog
+  dialogs/external/StataDialog
   modelspec/Calculator
   modelspec/EqsNotebook
   modelspec/EqsNotebookPage

@@ -11,7 +11,11 @@
 #include "dialogs/external/InitsNotebook.h"
 #include "dialogs/external/InitsNotebookPage.h"
 #include "dialogs/external/JAGSDialog.h"
+#include "dialogs/external/MatlabDialog.h"
+#include "dialogs/external/OctaveDialog.h"
+#include "dialogs/external/RprojectDialog.h"
 #include "dialogs/external/StanDialog.h"
+#include "dialogs/external/StataDialog.h"
 #include "gallery/Entry.h"
 #include "gallery/Shelf.h"
 #include "pickers/ScriptPicker.h"
@@ -96,6 +100,19 @@ wxTopLevelWindow* Stan(Shelf&)
     return dialog;
 }
 
+/// A dialog in which a script is named, and what goes out to it and comes back.
+template <class Dialog>
+Entry::Build Script(wxString const& path, wxString const& output, wxString const& input)
+{
+    return [=](Shelf&)
+    {
+        auto* const dialog = new Dialog(nullptr);
+        NameScript(dialog, path);
+        FillTexts(dialog, {output, input});
+        return dialog;
+    };
+}
+
 wxTopLevelWindow* Notebook(Shelf&)
 {
     return FrameAround(
@@ -129,6 +146,14 @@ std::vector<Entry> ExternalDialogEntries()
         {"dialogs/external", "InitsNotebookPage", Page},
         {"dialogs/external", "JAGSDialog", [](Shelf&) { return Jags(); }},
         {"dialogs/external", "JAGSDialog, initial values", JagsInits},
+        {"dialogs/external", "MatlabDialog",
+         Script<MatlabDialog>("scripts/hp_filter.m", "longley, design", "trend, cycle")},
+        {"dialogs/external", "OctaveDialog",
+         Script<OctaveDialog>("scripts/hp_filter.m", "longley, design", "trend, cycle")},
+        {"dialogs/external", "RprojectDialog",
+         Script<RprojectDialog>("scripts/unit_roots.R", "longley", "adf, longley_differenced")},
         {"dialogs/external", "StanDialog", Stan},
+        {"dialogs/external", "StataDialog",
+         Script<StataDialog>("scripts/arima.do", "airquality", "coefficients, covariance")},
     };
 }

@@ -8,6 +8,7 @@
 #include "dialogs/data/DialogChecks.h"
 #include "pickers/ScriptPicker.h"
 #include "pickers/TextPicker.h"
+#include "support/Layout.h"
 
 /// What all dialogs have in common that ask how another program is to be run.
 namespace program_checks
