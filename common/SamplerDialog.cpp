@@ -18,7 +18,7 @@ wxPanel* AddPage(wxNotebook* notebook, wxString const& title, long style)
 int TopBorder(wxSizer const* column) { return column->IsEmpty() ? wxTOP : 0; }
 } // namespace
 
-SamplerFrame BuildSamplerFrame(wxDialog* dialog, wxString const& dataTitle, int boxes)
+SamplerFrame BuildSamplerFrame(wxDialog* dialog, wxString const& dataPage, int boxes)
 {
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     auto* const columns = new wxFlexGridSizer(1, 2, 0, 0);
@@ -28,25 +28,19 @@ SamplerFrame BuildSamplerFrame(wxDialog* dialog, wxString const& dataTitle, int 
 
     auto* const notebook = new wxNotebook(dialog, wxID_ANY);
     columns->Add(notebook, 0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5);
-    auto* const dataPage = AddPage(notebook, dataTitle, wxTAB_TRAVERSAL | wxBORDER_NONE);
-    auto* const initsPage = AddPage(notebook, "Initial Values", wxTAB_TRAVERSAL);
+    auto* const data = AddPage(notebook, dataPage, wxTAB_TRAVERSAL | wxBORDER_NONE);
+    auto* const inits = AddPage(notebook, "Initial Values", wxTAB_TRAVERSAL);
 
     auto* const settings = new wxFlexGridSizer(boxes, 1, 0, 0);
     settings->AddGrowableRow(0, 5);
     columns->Add(settings, 0, wxEXPAND, 5);
-    return {dialog, sizer, notebook, dataPage, initsPage, settings};
+    return {dialog, sizer, notebook, data, inits, settings};
 }
 
 wxStaticBoxSizer* AddSettingsBox(SamplerFrame const& frame, wxString const& label)
 {
     return AddLabelledBox(frame.dialog, frame.settings, label, 0,
                           wxEXPAND | TopBorder(frame.settings) | wxRIGHT | wxBOTTOM);
-}
-
-void FinishSamplerFrame(SamplerFrame const& frame)
-{
-    AddFocusedButtonRow(frame.dialog, frame.sizer);
-    LayOutDialog(frame.dialog, frame.sizer);
 }
 
 wxStaticBoxSizer* AddPageBox(wxPanel* page, wxSizer* sizer, wxString const& label)
@@ -58,8 +52,8 @@ wxStaticBoxSizer* AddPageBox(wxPanel* page, wxSizer* sizer, wxString const& labe
 void LayOutPage(wxPanel* page, wxSizer* sizer)
 {
     page->SetSizer(sizer);
-    // GTK shows what is on the page before the page has its size, and complains of scroll bars that
-    // have no room.
+    // GTK shows what is on the page before the toolkit lays it out in its final size, and complains of
+    // what has no room until then.
     sizer->Fit(page);
 }
 

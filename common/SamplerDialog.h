@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <tuple>
+
 #include <wx/notebook.h>
 #include <wx/panel.h>
 
@@ -21,33 +24,13 @@ struct SamplerFrame
     wxPanel* initsPage;
     wxSizer* settings; ///< The column at the right.
 };
-SamplerFrame BuildSamplerFrame(wxDialog* dialog, wxString const& dataTitle, int boxes);
+SamplerFrame BuildSamplerFrame(wxDialog* dialog, wxString const& dataPage, int boxes);
 
 /// Adds a box to the column at the right.
 wxStaticBoxSizer* AddSettingsBox(SamplerFrame const& frame, wxString const& label);
 
-/// Adds a box around a picker that is made of `arguments`.
-template <class Picker, class... Arguments>
-Picker* AddSettings(SamplerFrame const& frame, wxString const& label, Arguments... arguments)
-{
-    return FillBox<Picker>(AddSettingsBox(frame, label), arguments...);
-}
-
-/// Adds a box around the field for the model file, which has a label of its own.
-template <class ScriptPicker>
-ScriptPicker* AddModelFile(SamplerFrame const& frame, wxString const& box, wxString const& label)
-{
-    return AddSettings<ScriptPicker>(frame, box, label, 272);
-}
-
-/// The buttons below both columns, and the layout of all.
-void FinishSamplerFrame(SamplerFrame const& frame);
-
 /// Adds a box to those of a page, which lie in `sizer`.
 wxStaticBoxSizer* AddPageBox(wxPanel* page, wxSizer* sizer, wxString const& label);
-
-/// Gives a page its sizer. It is as small as its contents let it be until the notebook is shown.
-void LayOutPage(wxPanel* page, wxSizer* sizer);
 
 /// Adds a box around a field for the names of what the sampler is given or gives back.
 template <class TextPicker>
@@ -62,17 +45,43 @@ inline constexpr char DATA_EXAMPLE[] = "mat1, mat2, dat1.var2, ...";
 inline constexpr char PARAMETERS_EXAMPLE[] = "\"mu\", \"tau\", \"beta[2:4]\", ...";
 ///@}
 
-/// Fills the page of the initial values with a notebook over an example.
-///@{
+/// Gives a page its sizer.
+void LayOutPage(wxPanel* page, wxSizer* sizer);
+
+/// Lays out the page of the initial values: `notebook`, its child, over an example.
 void LayOutInitsPage(wxPanel* page, wxWindow* notebook);
 
-template <class InitsNotebook>
-InitsNotebook* FillInitsPage(wxPanel* page)
+/// In which words the dialogs differ.
+struct SamplerWords
 {
-    auto* const notebook = new InitsNotebook(page);
-    LayOutInitsPage(page, notebook);
-    return notebook;
+    wxString dataPage;
+    wxString scriptBox;
+    wxString scriptLabel;
+};
+
+/// Fills the dialog, and gives the notebook, its two pages, and what was made of the classes told.
+/// `fillDataPage` fills the first page. `addMethod` adds a box below that of the model file; without it
+/// there is none.
+template <class InitsNotebook, class ScriptPicker, class Sampler, class StorePicker>
+std::tuple<wxNotebook*, wxPanel*, wxPanel*, InitsNotebook*, ScriptPicker*, Sampler*, StorePicker*>
+BuildSamplerDialog(wxDialog* dialog, SamplerWords const& words,
+                   std::function<void(wxPanel*)> const& fillDataPage,
+                   std::function<void(SamplerFrame const&)> const& addMethod = nullptr)
+{
+    auto const frame = BuildSamplerFrame(dialog, words.dataPage, addMethod ? 4 : 3);
+    fillDataPage(frame.dataPage);
+    auto* const inits = new InitsNotebook(frame.initsPage);
+    LayOutInitsPage(frame.initsPage, inits);
+
+    auto* const script = FillBox<ScriptPicker>(AddSettingsBox(frame, words.scriptBox),
+                                               wxString(words.scriptLabel), 272);
+    if (addMethod)
+        addMethod(frame);
+    auto* const sampler = FillBox<Sampler>(AddSettingsBox(frame, "Gibbs Sampler Parameters"));
+    auto* const store = FillBox<StorePicker>(AddSettingsBox(frame, "Store Model's Results"));
+    AddFocusedButtonRow(dialog, frame.sizer);
+    LayOutDialog(dialog, frame.sizer);
+    return {frame.notebook, frame.dataPage, frame.initsPage, inits, script, sampler, store};
 }
-///@}
 ///@}
 } // namespace zenqo

@@ -28,8 +28,8 @@ inline constexpr int BELOW_FIRST_BOX = wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM;
 template <class TextPicker>
 TextPicker* AddItemsBox(wxDialog* dialog, wxSizer* sizer, wxString const& label, wxString const& example)
 {
-    return FillBox<TextPicker>(AddLabelledBox(dialog, sizer, label, 1, BELOW_FIRST_BOX), wxString(example),
-                               500, 70);
+    auto* const box = AddLabelledBox(dialog, sizer, label, 1, BELOW_FIRST_BOX);
+    return FillBox<TextPicker>(box, wxString(example), 500, 70);
 }
 
 /// Fills the dialog, and gives the fields for what goes out, for what comes in, and for the script.

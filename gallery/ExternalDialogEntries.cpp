@@ -86,12 +86,14 @@ wxTopLevelWindow* Bugs(Shelf&)
 
 wxTopLevelWindow* Stan(Shelf&)
 {
-    auto* const dialog = Sampler<StanDialog>({"longley.TOTEMP, longley.GNP, design"}, "models/employment.stan");
+    auto* const dialog
+        = Sampler<StanDialog>({"longley.TOTEMP, longley.GNP, design"}, "models/employment.stan");
     // The second choice of the first file.
     Choose(AllIn<wxRadioButton>(dialog)[1], wxEVT_RADIOBUTTON);
     AllIn<wxFilePickerCtrl>(dialog)[0]->SetPath("results/employment.csv");
-    AllIn<wxCheckBox>(dialog)[1]->SetValue(false);
-    auto* const options = dynamic_cast<wxTextCtrl*>(AllIn<wxCheckBox>(dialog)[1]->GetNextSibling()->GetNextSibling());
+    auto* const diagnose = AllIn<wxCheckBox>(dialog)[1];
+    diagnose->SetValue(false);
+    auto* const options = In<wxTextCtrl>(diagnose->GetParent());
     options->SetValue("algorithm=hmc engine=nuts max_depth=12");
     auto* const method = AllIn<wxChoice>(dialog)[0];
     method->SetSelection(1);

@@ -12,29 +12,21 @@ JAGSDialog::JAGSDialog(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, "JAGS Interface", wxDefaultPosition, wxDefaultSize,
                zenqo::PROGRAM_DIALOG_STYLE)
 {
-    auto const frame = zenqo::BuildSamplerFrame(this, "Data && Parameters", 3);
-    m_notebook = frame.notebook;
-    m_dataPage = frame.dataPage;
-    FillDataPage();
-    m_initsPage = frame.initsPage;
-    m_inits = zenqo::FillInitsPage<InitsNotebook>(m_initsPage);
-
-    m_script = zenqo::AddModelFile<ScriptPicker>(frame, "JAGS Model File",
-                                                 "Location of the JAGS model file:");
-    m_sampler = zenqo::AddSettings<GibbsPicker>(frame, "Gibbs Sampler Parameters");
-    m_store = zenqo::AddSettings<StorePicker>(frame, "Store Model's Results");
-    zenqo::FinishSamplerFrame(frame);
+    std::tie(m_notebook, m_dataPage, m_initsPage, m_inits, m_script, m_sampler, m_store)
+        = zenqo::BuildSamplerDialog<InitsNotebook, ScriptPicker, GibbsPicker, StorePicker>(
+            this, {"Data && Parameters", "JAGS Model File", "Location of the JAGS model file:"},
+            [this](wxPanel* page) { FillDataPage(page); });
     Bind(wxEVT_BUTTON, &JAGSDialog::OnButtonOk, this, wxID_OK);
 }
 
-void JAGSDialog::FillDataPage()
+void JAGSDialog::FillDataPage(wxPanel* page)
 {
     auto* const boxes = new wxBoxSizer(wxVERTICAL);
-    m_data = zenqo::AddNamesBox<TextPicker>(m_dataPage, boxes, "Data to Pass to JAGS",
+    m_data = zenqo::AddNamesBox<TextPicker>(page, boxes, "Data to Pass to JAGS",
                                             zenqo::DATA_EXAMPLE);
-    m_monitor = zenqo::AddNamesBox<TextPicker>(m_dataPage, boxes, "Parameters to Monitor",
+    m_monitor = zenqo::AddNamesBox<TextPicker>(page, boxes, "Parameters to Monitor",
                                                zenqo::PARAMETERS_EXAMPLE);
-    zenqo::LayOutPage(m_dataPage, boxes);
+    zenqo::LayOutPage(page, boxes);
 }
 
 JAGSDialog::~JAGSDialog()
@@ -56,7 +48,10 @@ wxString JAGSDialog::GetModelName() const { return m_store->GetModelName(); }
 
 Eigen::VectorXd JAGSDialog::GetGibbsParams() const { return m_settings; }
 
-unsigned long long JAGSDialog::GetSamples() const { return zenqo::LargeSetting(m_sampler->GetSamples()); }
+unsigned long long JAGSDialog::GetSamples() const
+{
+    return zenqo::LargeSetting(m_sampler->GetSamples());
+}
 
 unsigned long long JAGSDialog::GetBurnin() const { return zenqo::LargeSetting(m_sampler->GetBurnin()); }
 

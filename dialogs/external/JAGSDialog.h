@@ -63,7 +63,7 @@ public:
     void OnButtonOk(wxCommandEvent& event);
 
 private:
-    void FillDataPage();
+    void FillDataPage(wxPanel* page);
 
     wxNotebook* m_notebook;
     wxPanel* m_dataPage;

@@ -10,8 +10,8 @@ OctaveDialog::OctaveDialog(wxWindow* parent)
 {
     std::tie(m_output, m_input, m_script) = zenqo::BuildBridge<TextPicker, ScriptPicker>(
         this,
-        {"GNU Octave Script", "Location of the GNU Octave script file:", "Zenqo Items to Pass to GNU Octave",
-         "GNU Octave Objects to Pass to Zenqo", "mat1, mat2, ..."});
+        {"GNU Octave Script", "Location of the GNU Octave script file:",
+         "Zenqo Items to Pass to GNU Octave", "GNU Octave Objects to Pass to Zenqo", "mat1, mat2, ..."});
     Bind(wxEVT_BUTTON, &OctaveDialog::OnButtonOk, this, wxID_OK);
 }
 

@@ -34,24 +34,17 @@ StanDialog::StanDialog(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, "Stan Interface", wxDefaultPosition, wxDefaultSize,
                zenqo::PROGRAM_DIALOG_STYLE)
 {
-    auto const frame = zenqo::BuildSamplerFrame(this, "Data && Options", 4);
-    m_notebook = frame.notebook;
-    m_dataPage = frame.dataPage;
-    FillDataPage();
-    m_initsPage = frame.initsPage;
-    m_inits = zenqo::FillInitsPage<InitsNotebook>(m_initsPage);
-
-    m_script = zenqo::AddModelFile<ScriptPicker>(frame, "Stan Model File",
-                                                 "Location of the Stan model file:");
-    FillMethod(zenqo::AddSettingsBox(frame, "Stan Method"));
-    m_sampler = zenqo::AddSettings<GibbsPickerStan>(frame, "Gibbs Sampler Parameters");
-    m_store = zenqo::AddSettings<StorePicker>(frame, "Store Model's Results");
-    zenqo::FinishSamplerFrame(frame);
+    std::tie(m_notebook, m_dataPage, m_initsPage, m_inits, m_script, m_sampler, m_store)
+        = zenqo::BuildSamplerDialog<InitsNotebook, ScriptPicker, GibbsPickerStan, StorePicker>(
+            this, {"Data && Options", "Stan Model File", "Location of the Stan model file:"},
+            [this](wxPanel* page) { FillDataPage(page); },
+            [this](zenqo::SamplerFrame const& frame)
+            { FillMethod(zenqo::AddSettingsBox(frame, "Stan Method")); });
     Bind(wxEVT_BUTTON, &StanDialog::OnButtonOk, this, wxID_OK);
     m_method->Bind(wxEVT_CHOICE, &StanDialog::OnChangeChoice, this);
 }
 
-void StanDialog::FillDataPage()
+void StanDialog::FillDataPage(wxPanel* page)
 {
     // It was made for two boxes and holds three. At the third the toolkit would complain and let the
     // number of rows follow from what is in them; it is told so before, and does not complain.
@@ -59,13 +52,13 @@ void StanDialog::FillDataPage()
     boxes->AddGrowableRow(0, 100);
     boxes->SetRows(0);
 
-    m_data = zenqo::AddNamesBox<TextPicker>(m_dataPage, boxes, "Data to Pass to Stan",
+    m_data = zenqo::AddNamesBox<TextPicker>(page, boxes, "Data to Pass to Stan",
                                             zenqo::DATA_EXAMPLE);
-    auto* const files = zenqo::AddPageBox(m_dataPage, boxes, "Stan Output Files");
+    auto* const files = zenqo::AddPageBox(page, boxes, "Stan Output Files");
     m_outputFile = zenqo::FillBox<OutputFilePicker>(files, "output file");
     m_diagnosticFile = zenqo::FillBox<OutputFilePicker>(files, "diagnostic file");
-    FillOptions(zenqo::AddPageBox(m_dataPage, boxes, "Additional Options"));
-    zenqo::LayOutPage(m_dataPage, boxes);
+    FillOptions(zenqo::AddPageBox(page, boxes, "Additional Options"));
+    zenqo::LayOutPage(page, boxes);
 }
 
 void StanDialog::FillOptions(wxStaticBoxSizer* box)
@@ -144,13 +137,19 @@ wxString StanDialog::GetModelName() const { return m_store->GetModelName(); }
 
 Eigen::VectorXd StanDialog::GetGibbsParams() const { return m_settings; }
 
-unsigned long long StanDialog::GetSamples() const { return zenqo::LargeSetting(m_sampler->GetSamples()); }
+unsigned long long StanDialog::GetSamples() const
+{
+    return zenqo::LargeSetting(m_sampler->GetSamples());
+}
 
 unsigned long long StanDialog::GetBurnin() const { return zenqo::LargeSetting(m_sampler->GetBurnin()); }
 
 unsigned long long StanDialog::GetSeed() const { return zenqo::LargeSetting(m_sampler->GetSeed()); }
 
-unsigned long long StanDialog::GetRefresh() const { return zenqo::LargeSetting(m_sampler->GetRefresh()); }
+unsigned long long StanDialog::GetRefresh() const
+{
+    return zenqo::LargeSetting(m_sampler->GetRefresh());
+}
 
 int StanDialog::GetThin() const { return zenqo::SmallSetting(m_sampler->GetThin()); }
 

@@ -69,8 +69,8 @@ public:
     Eigen::VectorXd GetGibbsParams() const;
 
     /// The numbers in the fields. What can't be read is 0, a fraction is cut off; the user has not been
-    /// able to accept that, but for the samples, which are never looked at. Fields that the method does not need
-    /// are read like the others.
+    /// able to accept that, but for the samples, which are never looked at. Fields that the method does
+    /// not need are read like the others.
     ///@{
     unsigned long long GetSamples() const; ///< Draws that are retained of each chain.
     unsigned long long GetBurnin() const;  ///< Draws that each chain makes and drops first.
@@ -88,7 +88,7 @@ public:
     void OnButtonOk(wxCommandEvent& event);
 
 private:
-    void FillDataPage();
+    void FillDataPage(wxPanel* page);
     void FillOptions(wxStaticBoxSizer* box);
     void FillMethod(wxStaticBoxSizer* box);
 

@@ -24,7 +24,8 @@ TEST_CASE("BUGS dialog: pages at the left, settings at the right")
                wxSize(400, -1));
     CheckInitsPage(columns);
 
-    CheckScript(CheckSettings(columns, 0, "BUGS Model File"), "Location of the OpenBUGS model file:", 272);
+    CheckScript(CheckSettings(columns, 0, "BUGS Model File"), "Location of the OpenBUGS model file:",
+                272);
     CheckFilled<GibbsPicker>(CheckSettings(columns, 1, "Gibbs Sampler Parameters"));
     CheckFilled<StorePicker>(CheckSettings(columns, 2, "Store Model's Results"));
 }

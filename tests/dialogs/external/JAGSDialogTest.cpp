@@ -16,7 +16,8 @@ TEST_CASE("JAGS dialog: pages at the left, settings at the right")
     REQUIRE(page);
     CHECK(page->GetOrientation() == wxVERTICAL);
     REQUIRE(page->GetItemCount() == 2);
-    CheckTexts(CheckOnPage(page, 0, "Data to Pass to JAGS"), "mat1, mat2, dat1.var2, ...", wxSize(400, -1));
+    CheckTexts(CheckOnPage(page, 0, "Data to Pass to JAGS"), "mat1, mat2, dat1.var2, ...",
+               wxSize(400, -1));
     CheckTexts(CheckOnPage(page, 1, "Parameters to Monitor"), "\"mu\", \"tau\", \"beta[2:4]\", ...",
                wxSize(400, -1));
     CheckInitsPage(columns);

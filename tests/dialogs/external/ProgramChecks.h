@@ -72,8 +72,8 @@ inline wxFilePickerCtrl* ScriptOf(wxWindow const* dialog)
     return Find<wxFilePickerCtrl>(Find<ScriptPicker>(dialog));
 }
 
-/// Deletes `dialog` and gives those of `windows` that are deleted before the others, in their order.
-/// Each window below the dialog must go once.
+/// Deletes `dialog` and gives `windows` in the order in which they went. Each window below the dialog
+/// must go once.
 inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*> const& windows)
 {
     std::vector<wxWindow*> gone;
@@ -91,10 +91,32 @@ inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*>
     auto sorted = gone;
     std::sort(sorted.begin(), sorted.end());
     CHECK(std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end());
-    gone.erase(std::remove_if(gone.begin(), gone.end(),
-                              [&](wxWindow* window)
-                              { return std::find(windows.begin(), windows.end(), window) == windows.end(); }),
-               gone.end());
-    return gone;
+    std::vector<wxWindow*> order;
+    for (auto* const window : gone)
+        if (std::find(windows.begin(), windows.end(), window) != windows.end())
+            order.push_back(window);
+    return order;
+}
+
+/// Deletes the dialog while the user is at work, which `use` is; at once, and when the toolkit gets round
+/// to it.
+template <class Dialog>
+void DeletedInUse(std::function<void(Dialog*)> const& use)
+{
+    Stage stage;
+    for (bool const atOnce : {true, false})
+    {
+        auto* const dialog = new Dialog(stage.Frame());
+        dialog->Show();
+        PumpUntil([&] { return dialog->IsActive(); });
+        Pump(150);
+        use(dialog);
+        if (atOnce)
+            delete dialog;
+        else
+            dialog->Destroy();
+        Pump(50);
+        CHECK(FindAll<wxDialog>(stage.Frame()).empty());
+    }
 }
 } // namespace program_checks

@@ -45,8 +45,8 @@ struct Columns
     wxSizer* settings;
 };
 
-inline Columns CheckSamplerFrame(wxDialog const& dialog, wxString const& title, wxString const& firstPage,
-                                 int boxes)
+inline Columns CheckSamplerFrame(wxDialog const& dialog, wxString const& title,
+                                 wxString const& firstPage, int boxes)
 {
     auto* const sizer = CheckFrame(dialog, title, 2, STYLE);
     CheckRunAndCancel(Item(sizer, 1), dialog);
@@ -196,7 +196,8 @@ void StoredThoughRefused()
                           {3, most, 3, 3, 4});
                   refuses({"1", "-1", "2\xCE\xB2", "\xCE\xB2", "4"}, BAD_CHAINS, {1, most, 2, 0, 4});
                   refuses({"1", "+2", "-3", "--4", ""}, BAD_THIN, {1, 2, -3, 0, 0});
-                  refuses({"1", "2", "4294967297", "0", "18446744073709551616"}, BAD_SEED, {1, 2, 1, 0, 0});
+                  refuses({"1", "2", "4294967297", "0", "18446744073709551616"}, BAD_SEED,
+                          {1, 2, 1, 0, 0});
                   refuses({"\xEF\xBC\x91", "0", "0", "0", "\xEF\xBC\x91"}, BAD_SEED, {0, 0, 0, 0, 0});
 
                   // The samples alone may be anything, and what the conversions take passes.
@@ -291,36 +292,29 @@ void ByHand(std::function<void(Dialog&)> const& onFirstPage)
     CHECK(dialog.GetModelName() == "NoStore");
 }
 
-/// Deleted while nobody looks, while the user edits the initial values or a setting, and while a chain is
-/// being added: nothing is deleted twice, which the sanitizers watch.
-template <class Dialog, class Sampler>
+/// Deleted while nobody looks, and while the user edits the initial values: nothing is deleted twice,
+/// which the sanitizers watch.
+template <class Dialog>
 void Deleted(std::function<std::vector<wxWindow*>(Dialog*)> const& inOrder)
 {
-    Stage stage;
-    auto* dialog = new Dialog(stage.Frame());
-    auto const expected = inOrder(dialog);
-    CHECK(Deletions(dialog, expected) == expected);
-    CHECK(FindAll<wxDialog>(stage.Frame()).empty());
-
-    for (bool const atOnce : {true, false})
     {
-        dialog = new Dialog(stage.Frame());
-        dialog->Show();
-        PumpUntil([&] { return dialog->IsActive(); });
-        Pump(150);
-        auto* const inits = Find<InitsNotebook>(dialog);
-        AddChain(Find<wxNotebook>(dialog), inits);
-        auto* const field = Find<wxTextCtrl>(inits->GetPage(1));
-        Click(field);
-        TypeText("b");
-        CHECK(field->HasFocus());
-        if (atOnce)
-            delete dialog;
-        else
-            dialog->Destroy();
-        Pump(50);
+        Stage stage;
+        auto* const dialog = new Dialog(stage.Frame());
+        auto const expected = inOrder(dialog);
+        CHECK(Deletions(dialog, expected) == expected);
         CHECK(FindAll<wxDialog>(stage.Frame()).empty());
     }
+    DeletedInUse<Dialog>(
+        [](Dialog* dialog)
+        {
+            auto* const inits = Find<InitsNotebook>(dialog);
+            AddChain(Find<wxNotebook>(dialog), inits);
+            auto* const field = Find<wxTextCtrl>(inits->GetPage(1));
+            Click(field);
+            TypeText("b");
+            CHECK(field->HasFocus());
+            CHECK(dialog->GetInits().size() == 1);
+        });
 }
 
 /// All of these for one dialog.
@@ -334,6 +328,6 @@ void CheckAll(std::function<void(Dialog&)> const& onFirstPage,
     SECTION("what is refused is stored") { StoredThoughRefused<Dialog, Sampler>(); }
     SECTION("each getter reads its field") { GettersOfSettings<Dialog, Sampler>(); }
     SECTION("a run described by hand") { ByHand<Dialog, Sampler>(onFirstPage); }
-    SECTION("it goes in order, also while it is used") { Deleted<Dialog, Sampler>(deleted); }
+    SECTION("it goes in order, also while it is used") { Deleted<Dialog>(deleted); }
 }
 } // namespace sampler_checks

@@ -120,7 +120,8 @@ void OddScripts(Words const& words)
                   // What has no narrow form names no file.
                   AsciiLocale const ascii;
                   fixture.script->SetValue(wxString::FromUTF8("\xCE\xB2.m"));
-                  CheckRefused(dialog, wxString::FromUTF8(words.complaint), [&] { CHECK(!Accepts(dialog)); });
+                  CheckRefused(dialog, wxString::FromUTF8(words.complaint),
+                               [&] { CHECK(!Accepts(dialog)); });
                   dialog.EndModal(wxID_CANCEL);
               });
 }
@@ -133,9 +134,10 @@ void Tabs(bool hasOptions)
     std::vector<wxWindow*> controls{fixture.script, fixture.browse};
     if (hasOptions)
         controls.push_back(Find<wxTextCtrl>(&dialog, 1));
-    for (wxWindow* const next : {static_cast<wxWindow*>(fixture.output), static_cast<wxWindow*>(fixture.input),
-                                 dialog.FindWindow(wxID_CANCEL), fixture.run})
-        controls.push_back(next);
+    for (std::size_t const n : {0, 1})
+        controls.push_back(TextOf(&dialog, n));
+    controls.push_back(dialog.FindWindow(wxID_CANCEL));
+    controls.push_back(fixture.run);
     RunDialog(dialog,
               [&]
               {
@@ -153,22 +155,13 @@ void Deleted()
     std::vector<wxWindow*> const expected{Find<TextPicker>(dialog, 0), Find<TextPicker>(dialog, 1),
                                           Find<ScriptPicker>(dialog), dialog->FindWindow(wxID_OK)};
     CHECK(Deletions(dialog, expected) == expected);
-    for (bool const atOnce : {true, false})
-    {
-        dialog = new Dialog(stage.Frame());
-        dialog->Show();
-        PumpUntil([&] { return dialog->IsActive(); });
-        Pump(100);
-        Click(TextOf(dialog, 1));
-        TypeText("a");
-        CHECK(dialog->GetInputData() == "a");
-        if (atOnce)
-            delete dialog;
-        else
-            dialog->Destroy();
-        Pump(50);
-        CHECK(FindAll<wxDialog>(stage.Frame()).empty());
-    }
+    DeletedInUse<Dialog>(
+        [](Dialog* used)
+        {
+            Click(TextOf(used, 1));
+            TypeText("a");
+            CHECK(used->GetInputData() == "a");
+        });
 }
 
 /// All of these for one dialog; the layout is checked by the dialog's own test.

@@ -37,7 +37,7 @@ struct StanFixture : Fixture<StanDialog, GibbsPickerStan>
     wxCheckBox* diagnose = Find<wxCheckBox>(&dialog, 1);
     OutputFilePicker* output = Find<OutputFilePicker>(&dialog, 0);
     OutputFilePicker* diagnostic = Find<OutputFilePicker>(&dialog, 1);
-    wxTextCtrl* options = dynamic_cast<wxTextCtrl*>(diagnose->GetNextSibling()->GetNextSibling());
+    wxTextCtrl* options = Find<wxTextCtrl>(diagnose->GetParent());
 };
 
 using Rows = std::vector<std::size_t>;
@@ -55,7 +55,8 @@ TEST_CASE("Stan dialog: pages at the left, settings at the right")
     auto* const page = CheckGrid(columns.notebook->GetPage(0)->GetSizer(), 0, 1, {{0, 100}}, {});
     CHECK(page->GetEffectiveRowsCount() == 3);
     REQUIRE(page->GetItemCount() == 3);
-    CheckTexts(CheckOnPage(page, 0, "Data to Pass to Stan"), "mat1, mat2, dat1.var2, ...", wxSize(400, -1));
+    CheckTexts(CheckOnPage(page, 0, "Data to Pass to Stan"), "mat1, mat2, dat1.var2, ...",
+               wxSize(400, -1));
     auto* const files = CheckOnPage(page, 1, "Stan Output Files", 2);
     CHECK(CheckFilled<OutputFilePicker>(files, 0) == fixture.output);
     CHECK(CheckFilled<OutputFilePicker>(files, 1) == fixture.diagnostic);
@@ -63,8 +64,8 @@ TEST_CASE("Stan dialog: pages at the left, settings at the right")
     for (auto* const button : FindAll<wxRadioButton>(&dialog))
         labels.push_back(button->GetLabel());
     CHECK(labels
-          == std::vector<wxString>{"Default output file", "Custom output file", "Default diagnostic file",
-                                   "Custom diagnostic file"});
+          == std::vector<wxString>{"Default output file", "Custom output file",
+                                   "Default diagnostic file", "Custom diagnostic file"});
     CheckInitsPage(columns);
 
     CheckScript(CheckSettings(columns, 0, "Stan Model File"), "Location of the Stan model file:", 272);
