@@ -34,8 +34,8 @@ std::vector<Entry> EquationEntries();
 std::vector<Entry> DataDialogEntries();
 std::vector<Entry> AnalysisDialogEntries();
 std::vector<Entry> PostEstimationEntries();
-std::vector<Entry> ApplicationDialogEntries();
 std::vector<Entry> ExternalDialogEntries();
+std::vector<Entry> ApplicationDialogEntries();
 std::vector<Entry> PaneEntries();
 
 /// A frame for a widget that is a part of a window. `make` makes the widget with the frame as

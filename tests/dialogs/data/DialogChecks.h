@@ -38,10 +38,11 @@ inline wxSizer* CheckCell(wxSizerItem const* item)
     return cell;
 }
 
-/// The box with a caption, which is seen whole, and one thing in it.
-inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label,
-                             Placement const& placement = {0, wxEXPAND | wxALL, 5})
+/// The box with a caption, which is seen whole, around so many things.
+inline wxStaticBoxSizer* CheckBoxAround(wxSizerItem const* item, wxString const& label,
+                                        Placement const& placement, std::size_t count = 1)
 {
+    CAPTURE(label);
     CHECK(PlacementOf(item) == placement);
     auto* const box = dynamic_cast<wxStaticBoxSizer*>(item->GetSizer());
     REQUIRE(box);
@@ -49,8 +50,15 @@ inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label,
     auto const* const frame = box->GetStaticBox();
     CHECK(frame->GetLabel() == label);
     CHECK(frame->GetSize().x >= frame->GetTextExtent(frame->GetLabelText()).x);
-    REQUIRE(box->GetItemCount() == 1);
-    return Item(box, 0);
+    REQUIRE(box->GetItemCount() == count);
+    return box;
+}
+
+/// The same, and the one thing in it.
+inline wxSizerItem* CheckBox(wxSizerItem const* item, wxString const& label,
+                             Placement const& placement = {0, wxEXPAND | wxALL, 5})
+{
+    return Item(CheckBoxAround(item, label, placement), 0);
 }
 
 /// The box of items below the picker, of which the first is chosen.

@@ -105,7 +105,6 @@ TEST_CASE("initial values: a click on the plus tab adds a chain before it and sh
     ClickTab(notebook, 2);
     CHECK(TabTexts(notebook) == Texts{"chain1", "chain2", "chain3", ""});
     CHECK(notebook->GetSelection() == 2);
-    Keep(Photograph(stage.Frame()), "InitsNotebook");
 }
 
 TEST_CASE("initial values: a page is entered by an event that goes on, the plus tab by none")
@@ -188,7 +187,6 @@ TEST_CASE("initial values: with 98 chains the plus tab adds nothing and shows it
     CHECK(notebook->GetPageCount() == 99);
     CHECK(notebook->GetSelection() == 98);
     CHECK(notebook->GetPage(98)->IsShownOnScreen());
-    Keep(Photograph(stage.Frame()), "InitsNotebook-98");
 
     // The button that now stands on it closes nothing.
     REQUIRE(ClickCloseButton(notebook, 98));

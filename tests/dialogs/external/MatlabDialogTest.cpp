@@ -22,8 +22,8 @@ TEST_CASE("MATLAB dialog: the script, the options and two fields for items")
     CHECK(dialog.GetParent() == stage.Frame());
     auto* const sizer = CheckBoxes(dialog, WORDS, 1);
 
-    auto* const box = CheckCaptioned(Item(sizer, 1), {0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5},
-                                     "Command-line options", 2);
+    auto* const box = CheckBoxAround(Item(sizer, 1), "Command-line options",
+                                     {0, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5}, 2);
     auto* const text = dynamic_cast<wxStaticText*>(Item(box, 0)->GetWindow());
     REQUIRE(text);
     CHECK(text->GetLabel() == "Options to pass to the command that calls MALTAB:");

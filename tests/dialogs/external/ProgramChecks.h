@@ -18,20 +18,6 @@ using namespace dialog_checks;
 /// `wxDEFAULT_DIALOG_STYLE` and two bits of frames.
 constexpr long STYLE = 0x2000180C;
 
-/// The sizer of the box with a caption, which must hold `count` things.
-inline wxStaticBoxSizer* CheckCaptioned(wxSizerItem const* item, Placement const& placement,
-                                        wxString const& label, std::size_t count = 1)
-{
-    CAPTURE(label);
-    CHECK(PlacementOf(item) == placement);
-    auto* const box = dynamic_cast<wxStaticBoxSizer*>(item->GetSizer());
-    REQUIRE(box);
-    CHECK(box->GetOrientation() == wxVERTICAL);
-    CHECK(box->GetStaticBox()->GetLabel() == label);
-    REQUIRE(box->GetItemCount() == count);
-    return box;
-}
-
 /// The picker that fills a box.
 template <class Picker>
 Picker* CheckFilled(wxStaticBoxSizer* box, std::size_t item = 0)

@@ -75,7 +75,7 @@ inline Columns CheckSamplerFrame(wxDialog const& dialog, wxString const& title,
 inline wxStaticBoxSizer* CheckSettings(Columns const& columns, std::size_t n, wxString const& label)
 {
     int const flags = wxEXPAND | wxRIGHT | wxBOTTOM | (n == 0 ? wxTOP : 0);
-    return CheckCaptioned(Item(columns.settings, n), {0, flags, 5}, label);
+    return CheckBoxAround(Item(columns.settings, n), label, {0, flags, 5});
 }
 
 /// The n-th of the boxes on the first page.
@@ -83,7 +83,7 @@ inline wxStaticBoxSizer* CheckOnPage(wxSizer* page, std::size_t n, wxString cons
                                      std::size_t count = 1)
 {
     int const flags = wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM | (n == 0 ? wxTOP : 0);
-    return CheckCaptioned(Item(page, n), {1, flags, 3}, label, count);
+    return CheckBoxAround(Item(page, n), label, {1, flags, 3}, count);
 }
 
 inline void CheckInitsPage(Columns const& columns)
@@ -258,11 +258,9 @@ void ByHand(std::function<void(Dialog&)> const& onFirstPage)
             Click(TextOf(&dialog, 0));
             TypeText("y, d.x");
             onFirstPage(dialog);
-            Keep(Photograph(&dialog), dialog.GetTitle());
             AddChain(fixture.notebook, fixture.inits);
             Click(Find<wxTextCtrl>(fixture.inits->GetPage(1)));
             TypeText("t = 1");
-            Keep(Photograph(&dialog), dialog.GetTitle() + ", initial values");
 
             Click(Find<wxTextCtrl>(ScriptOf(&dialog)));
             TypeText("a file");

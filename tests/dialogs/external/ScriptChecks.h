@@ -38,12 +38,12 @@ wxSizer* CheckBoxes(Dialog const& dialog, Words const& words, std::size_t betwee
 {
     auto const wide = [](char const* text) { return wxString::FromUTF8(text); };
     auto* const sizer = CheckFrame(dialog, wide(words.title), 4 + between, STYLE);
-    CheckScript(CheckCaptioned(Item(sizer, 0), {0, wxEXPAND | wxALL, 5}, wide(words.scriptBox)),
+    CheckScript(CheckBoxAround(Item(sizer, 0), wide(words.scriptBox), {0, wxEXPAND | wxALL, 5}),
                 wide(words.scriptLabel), 500);
     Placement const below{1, wxEXPAND | wxLEFT | wxRIGHT | wxBOTTOM, 5};
-    CheckTexts(CheckCaptioned(Item(sizer, 1 + between), below, wide(words.outputBox)),
+    CheckTexts(CheckBoxAround(Item(sizer, 1 + between), wide(words.outputBox), below),
                "mat1, mat2, mydataset, ...", wxSize(500, 70));
-    CheckTexts(CheckCaptioned(Item(sizer, 2 + between), below, wide(words.inputBox)),
+    CheckTexts(CheckBoxAround(Item(sizer, 2 + between), wide(words.inputBox), below),
                words.inputExample, wxSize(500, 70));
     CheckRunAndCancel(Item(sizer, 3 + between), dialog);
     return sizer;
@@ -67,7 +67,6 @@ void OnlyAScript(Words const& words)
                                      fixture.output->Clear();
                                      Click(fixture.script);
                                      TypeText("x.y");
-                                     Keep(Photograph(&dialog), dialog.GetTitle());
                                      Press(WXK_RETURN);
                                  });
     CHECK(answer == wxID_OK);
