@@ -14,7 +14,7 @@
 #include "support/ListClicks.h"
 #include "support/ModalScript.h"
 #include "support/Stage.h"
-#include "workbench/FakeGnuplot.h"
+#include "workbench/FakeProgram.h"
 #include "workbench/Scratch.h"
 #include "workbench/app/FigureView.h"
 #include "workbench/app/FigureWindow.h"

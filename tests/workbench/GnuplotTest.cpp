@@ -8,7 +8,7 @@
 #include <wx/mstream.h>
 
 #include "support/Stage.h"
-#include "workbench/FakeGnuplot.h"
+#include "workbench/FakeProgram.h"
 #include "workbench/Recorder.h"
 #include "workbench/Scratch.h"
 #include "workbench/engine/Workspace.h"

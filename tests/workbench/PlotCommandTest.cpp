@@ -4,7 +4,7 @@
 
 #include <wx/image.h>
 
-#include "workbench/FakeGnuplot.h"
+#include "workbench/FakeProgram.h"
 #include "workbench/Recorder.h"
 #include "workbench/Scratch.h"
 #include "workbench/analysis/ModelMaking.h"

@@ -13,6 +13,7 @@ class Recorder : public workbench::Output
 public:
     void Code(std::string const& source) override { codes.push_back(source); }
     void Text(std::string const& piece) override { text += piece; }
+    void Terminal(std::string const& piece) override { terminal += piece; }
     void Matrix(Eigen::MatrixXd const& matrix) override { matrices.push_back(matrix); }
     void Warning(std::string const& message) override { warnings.push_back(message); }
     void Error(std::string const& message) override { errors.push_back(message); }
@@ -21,6 +22,7 @@ public:
 
     std::vector<std::string> codes;
     std::string text;
+    std::string terminal;
     std::vector<Eigen::MatrixXd> matrices;
     std::vector<std::string> warnings;
     std::vector<std::string> errors;

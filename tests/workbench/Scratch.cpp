@@ -28,6 +28,13 @@ std::string Scratch::Write(std::string const& name, std::string const& content) 
     return Path(name);
 }
 
+std::string Scratch::WriteProgram(std::string const& name, std::string const& script) const
+{
+    auto const path = Write(name, "#!/bin/sh\n" + script + "\n");
+    fs::permissions(path, fs::perms::owner_all);
+    return path;
+}
+
 int Scratch::CountFiles() const
 {
     return static_cast<int>(std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));

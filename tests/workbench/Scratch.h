@@ -21,6 +21,9 @@ public:
     /// Writes a file and gives its path.
     std::string Write(std::string const& name, std::string const& content) const;
 
+    /// Writes a script of the shell that can be started as a program, and gives its path.
+    std::string WriteProgram(std::string const& name, std::string const& script) const;
+
     /// The number of files and folders in the folder, hidden ones included.
     int CountFiles() const;
 

@@ -9,6 +9,8 @@ void ConsoleOutput::Code(std::string const& text) { m_console.PrintOnConsoleCode
 
 void ConsoleOutput::Text(std::string const& text) { m_console.PrintOnConsole(text); }
 
+void ConsoleOutput::Terminal(std::string const& text) { m_console.PrintOnConsoleTerminal(text); }
+
 void ConsoleOutput::Matrix(Eigen::MatrixXd const& matrix) { m_console.PrintOnConsole(matrix); }
 
 void ConsoleOutput::Warning(std::string const& text) { m_console.PrintOnConsoleWarning(text); }

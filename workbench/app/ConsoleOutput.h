@@ -21,6 +21,7 @@ public:
 
     void Code(std::string const& text) override;
     void Text(std::string const& text) override;
+    void Terminal(std::string const& text) override;
     void Matrix(Eigen::MatrixXd const& matrix) override;
     void Warning(std::string const& text) override;
     void Error(std::string const& text) override;

@@ -2,8 +2,7 @@
 
 #include <string>
 
-#include <sys/types.h>
-
+#include "workbench/outside/Process.h"
 #include "workbench/plot/GnuplotScript.h"
 
 namespace workbench
@@ -19,12 +18,6 @@ public:
     /// Starts the drawing of `figure`. Throws an Error if gnuplot can't be started.
     Gnuplot(Figure const& figure, Picture const& picture);
 
-    /// Ends the program if it is still running.
-    ~Gnuplot();
-
-    Gnuplot(Gnuplot const&) = delete;
-    Gnuplot& operator=(Gnuplot const&) = delete;
-
     /// Takes what the program has drawn; waits for more up to so long. True once it is done.
     bool Wait(int milliseconds);
 
@@ -32,16 +25,8 @@ public:
     std::string const& Result() const;
 
 private:
-    void Start(std::string const& script);
-    void Read();
-    void End();
-
     PictureFormat m_format;
-    pid_t m_process = -1;
-    int m_drawn = -1; ///< The descriptors from which its output and its messages come.
-    int m_said = -1;
-    int m_status = 0;
-    bool m_isDone = false;
+    Process m_process;
     bool m_tooMuch = false;
     std::string m_picture;
     std::string m_messages; ///< The last that it said.

@@ -8,6 +8,7 @@
 #include "workbench/script/AnalysisCommands.h"
 #include "workbench/script/DataCommands.h"
 #include "workbench/script/Output.h"
+#include "workbench/script/OutsideCommands.h"
 #include "workbench/script/PlotCommands.h"
 #include "workbench/script/Print.h"
 
@@ -151,6 +152,17 @@ std::vector<Command> const& Commands()
          Naming::Always,
          "Reads a dataset from a file of delimited text, whose first line holds the variable names.",
          RunImport},
+        {"jags",
+         {{"model", Kind::String}, {"data", Kind::String}, {"monitors", Kind::String}},
+         Naming::Optional,
+         "Samples from the posterior of a model that is written for JAGS.",
+         RunJagsCommand,
+         {{"inits", Kind::String},
+          {"draws", Kind::Number},
+          {"burnin", Kind::Number},
+          {"chains", Kind::Number},
+          {"thin", Kind::Number},
+          {"seed", Kind::Number}}},
         {"load",
          {{"path", Kind::String}},
          Naming::Never,

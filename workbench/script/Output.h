@@ -21,6 +21,9 @@ public:
     /// Plain text, line ends included.
     virtual void Text(std::string const& text) = 0;
 
+    /// What a program of others writes, line ends included.
+    virtual void Terminal(std::string const& text) = 0;
+
     virtual void Matrix(Eigen::MatrixXd const& matrix) = 0;
     virtual void Warning(std::string const& text) = 0;
     virtual void Error(std::string const& text) = 0;
