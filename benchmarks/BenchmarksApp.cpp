@@ -55,6 +55,7 @@ private:
             benchmarks::MeasureStart(table);
             benchmarks::MeasureImport(table);
             benchmarks::MeasureData(table);
+            benchmarks::MeasureAnalysis(table);
             m_status = table.AllKept() ? 0 : 1;
         }
         catch (std::exception const& error)

@@ -16,5 +16,6 @@ void MeasureEquations(Table& table);
 void MeasureStart(Table& table);
 void MeasureImport(Table& table);
 void MeasureData(Table& table);
+void MeasureAnalysis(Table& table);
 ///@}
 } // namespace benchmarks

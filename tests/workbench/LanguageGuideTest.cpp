@@ -44,13 +44,15 @@ std::vector<std::string> Examples(std::string const& guide)
 /// The estimated models of which the guide tells.
 void AddModels(workbench::Workspace& workspace)
 {
+    Eigen::MatrixXd draws(8, 5);
+    draws.leftCols(3) << 5e4, 0.03, -0.5, 5.1e4, 0.04, -0.6, 4.9e4, 0.04, -0.4, 5e4, 0.05, -0.3, //
+        5e4, 0.05, -0.4, 5.2e4, 0.04, -0.7, 5e4, 0.03, -0.5, 4.8e4, 0.04, -0.4;
+    draws.col(4) << 600, 700, 650, 720, 610, 680, 690, 660;
+    draws.col(3) = draws.col(4).array().square().inverse();
     for (auto const* const name : {"ols", "small"})
     {
-        Eigen::MatrixXd draws(8, 4);
-        draws.leftCols(3) << 5e4, 0.03, -0.5, 5.1e4, 0.04, -0.6, 4.9e4, 0.04, -0.4, 5e4, 0.05, -0.3, //
-            5e4, 0.05, -0.4, 5.2e4, 0.04, -0.7, 5e4, 0.03, -0.5, 4.8e4, 0.04, -0.4;
-        draws.col(3) << 600, 700, 650, 720, 610, 680, 690, 660;
-        auto const model = ModelOfDraws({"constant", "GNP", "UNEMP", "sigma"}, draws, 2);
+        auto const model = RegressionOfDraws("TOTEMP", {"constant", "GNP", "UNEMP"}, draws);
+        model->dataset = "wages";
         model->results["logML"] = Eigen::RowVector2d(-120, -119);
         workspace.Assign(name, model);
     }
@@ -74,7 +76,7 @@ TEST_CASE("the examples of the language guide run")
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const examples = Examples(Guide());
-    CHECK(examples.size() == 19);
+    CHECK(examples.size() == 23);
     for (auto const& example : examples)
     {
         INFO(example);

@@ -69,13 +69,13 @@ Condition EvaluateCondition(std::string const& text, std::string const& name, Mo
     return {std::move(computed.values), std::move(computed.comparison)};
 }
 
-Verdict Judge(Eigen::ArrayXd const& holds, int chains, Progress& progress)
+Verdict Judge(Eigen::ArrayXd const& holds, int chains)
 {
     auto const missing = holds.isNaN();
     Verdict verdict;
     verdict.draws = holds.size() - missing.count();
     verdict.probability = missing.select(0.0, holds).sum() / static_cast<double>(verdict.draws);
-    verdict.error = MonteCarloError(holds, chains, progress);
+    verdict.error = MonteCarloError(holds, chains);
     return verdict;
 }
 

@@ -35,7 +35,7 @@ struct Verdict
 };
 
 /// `holds` is as in Condition, the chains one below the other.
-Verdict Judge(Eigen::ArrayXd const& holds, int chains, Progress& progress);
+Verdict Judge(Eigen::ArrayXd const& holds, int chains);
 
 /// Whether `verdict` says nothing about the model, because equality of draws of a continuous quantity
 /// has the probability 0 whatever is true.

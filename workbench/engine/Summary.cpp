@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "workbench/engine/Progress.h"
+#include "workbench/engine/Quantiles.h"
 
 namespace workbench
 {
@@ -48,24 +49,6 @@ void Moments(std::vector<double> const& values, Summary& summary)
         summary.deviation = static_cast<double>(
             std::sqrt(std::max(0.0L, squares - rest * rest / count) / (count - 1.0L)));
 }
-
-/// The quartile number `quarter`, from 1 to 3. Values before the place `from` are the smallest ones;
-/// afterwards those before the new `from` are.
-double Quartile(std::vector<double>& values, std::size_t quarter, std::size_t& from)
-{
-    auto const place = (values.size() - 1) * quarter;
-    auto const below = place / 4;
-    auto const share = static_cast<double>(place % 4) / 4.0;
-    auto const at
-        = [&](std::size_t index) { return values.begin() + static_cast<std::ptrdiff_t>(index); };
-    std::nth_element(at(from), at(below), values.end());
-    from = below;
-    auto const low = values[below];
-    if (share == 0.0)
-        return low;
-    auto const high = *std::min_element(at(below + 1), values.end());
-    return low == high ? low : (1.0 - share) * low + share * high;
-}
 } // namespace
 
 std::vector<Summary> Summarize(Dataset const& dataset, std::vector<Eigen::Index> const& columns,
@@ -99,13 +82,13 @@ std::vector<Summary> Summarize(Dataset const& dataset, std::vector<Eigen::Index>
             auto const [smallest, largest] = std::minmax_element(values.begin(), values.end());
             summary.minimum = *smallest;
             summary.maximum = *largest;
-            std::size_t from = 0;
+            QuantileTaker quantiles(values.data(), values.data() + values.size());
             report();
-            summary.lowerQuartile = Quartile(values, 1, from);
+            summary.lowerQuartile = quantiles.Take(1, 4);
             report();
-            summary.median = Quartile(values, 2, from);
+            summary.median = quantiles.Take(2, 4);
             report();
-            summary.upperQuartile = Quartile(values, 3, from);
+            summary.upperQuartile = quantiles.Take(3, 4);
         }
         summaries.push_back(summary);
         done = STEPS * summaries.size();

@@ -34,10 +34,7 @@ enum class SummaryRows
 ///
 /// The mean is corrected by the mean of what is left over, and the deviation takes the corrected
 /// algorithm of two passes: T. F. Chan, G. H. Golub and R. J. LeVeque, "Algorithms for Computing
-/// the Sample Variance", The American Statistician 37 (1983), 242-247. The quartiles are those of
-/// definition 7 in R. J. Hyndman and Y. Fan, "Sample Quantiles in Statistical Packages", The
-/// American Statistician 50 (1996), 361-365: between the two values next to the place
-/// 1 + (n - 1) p of the sorted ones the quantile lies on a straight line.
+/// the Sample Variance", The American Statistician 37 (1983), 242-247. The quartiles are QuantileTaker's.
 std::vector<Summary> Summarize(Dataset const& dataset, std::vector<Eigen::Index> const& columns,
                                SummaryRows rows, Progress& progress);
 } // namespace workbench

@@ -1,6 +1,7 @@
 #include "workbench/engine/Variables.h"
 
 #include <algorithm>
+#include <map>
 
 #include "engine/Functions.h"
 #include "workbench/engine/Error.h"
@@ -66,38 +67,54 @@ std::vector<Eigen::Index> ColumnsOf(Dataset const& dataset, std::vector<std::str
     return columns;
 }
 
-std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
-                                      Eigen::VectorXd const& values, Progress& progress)
+std::shared_ptr<Dataset> WithVariables(Dataset const& dataset, std::vector<std::string> const& names,
+                                       Eigen::MatrixXd const& values, Progress& progress)
 {
-    if (!CheckID(name))
-        throw Error(Quoted(name)
-                    + " cannot be the name of a variable: it may have letters, digits and underscores, "
-                      "and does not begin with a digit");
-    if (!dataset.varNames.empty() && VariableName(dataset, 0) == name)
-        throw Error("the name " + Quoted(name) + " is kept for the program's own use");
+    for (auto const& name : names)
+    {
+        if (!CheckID(name))
+            throw Error(Quoted(name)
+                        + " cannot be the name of a variable: it may have letters, digits and "
+                          "underscores, and does not begin with a digit");
+        if (!dataset.varNames.empty() && VariableName(dataset, 0) == name)
+            throw Error("the name " + Quoted(name) + " is kept for the program's own use");
+    }
 
     ProgressScope scope(progress, "Copying the dataset");
-    auto const found = FindVariable(dataset, name);
-    auto const old = dataset.data.cols();
-    auto const target = found == 0 ? old : found;
     auto const made = std::make_shared<Dataset>();
     made->name = dataset.name;
     made->varNames = dataset.varNames;
     made->labelledColumns = dataset.labelledColumns;
-    made->labelledColumns.erase(static_cast<int>(target));
-    if (found == 0)
-        made->varNames.Add(wxString::FromUTF8(name));
-    made->data.resize(dataset.data.rows(), std::max(old, target + 1));
-    for (Eigen::Index column = 0; column < made->data.cols(); ++column)
+    std::map<Eigen::Index, Eigen::Index> columns; // of `values`, by those of the dataset made
+    auto end = dataset.data.cols();
+    for (std::size_t i = 0; i < names.size(); ++i)
     {
-        if (column == target)
-            made->data.col(column) = values;
+        auto target = FindVariable(dataset, names[i]);
+        if (target == 0)
+        {
+            target = end++;
+            made->varNames.Add(wxString::FromUTF8(names[i]));
+        }
+        made->labelledColumns.erase(static_cast<int>(target));
+        columns[target] = static_cast<Eigen::Index>(i);
+    }
+    made->data.resize(dataset.data.rows(), end);
+    for (Eigen::Index column = 0; column < end; ++column)
+    {
+        auto const replaced = columns.find(column);
+        if (replaced != columns.end())
+            made->data.col(column) = values.col(replaced->second);
         else
             made->data.col(column) = dataset.data.col(column);
-        scope.Update(static_cast<std::uint64_t>(column + 1),
-                     static_cast<std::uint64_t>(made->data.cols()));
+        scope.Update(static_cast<std::uint64_t>(column + 1), static_cast<std::uint64_t>(end));
     }
     return made;
+}
+
+std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
+                                      Eigen::VectorXd const& values, Progress& progress)
+{
+    return WithVariables(dataset, {name}, values, progress);
 }
 
 std::shared_ptr<Dataset> WithoutVariables(Dataset const& dataset, std::vector<std::string> const& names,

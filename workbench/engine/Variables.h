@@ -34,9 +34,14 @@ Eigen::Index NumberColumnOf(Dataset const& dataset, std::string const& name);
 /// one that is no variable's, or one twice.
 std::vector<Eigen::Index> ColumnsOf(Dataset const& dataset, std::vector<std::string> const& names);
 
-/// A copy of `dataset` in which the variable called `name` has `values`, one for each observation.
-/// A variable of that name, which may hold text, is replaced in its place; a new one comes last.
-/// Throws an Error if `name` is not legal in the script language, or is the hidden column's.
+/// A copy of `dataset` with variables called `names`, whose values are the columns of `values`, one for
+/// each observation. A variable that has one of the names, which may hold text, is replaced in its
+/// place; new ones come last. Throws an Error if a name is not legal in the script language, or is the
+/// hidden column's.
+std::shared_ptr<Dataset> WithVariables(Dataset const& dataset, std::vector<std::string> const& names,
+                                       Eigen::MatrixXd const& values, Progress& progress);
+
+/// The same for one variable.
 std::shared_ptr<Dataset> WithVariable(Dataset const& dataset, std::string const& name,
                                       Eigen::VectorXd const& values, Progress& progress);
 

@@ -131,12 +131,12 @@ Outcome RunTest(Context const& context, Arguments const& arguments)
     std::vector<std::vector<std::string>> rows;
     for (std::size_t i = 0; i < conditions.size(); ++i)
     {
-        verdicts.push_back(Judge(conditions[i].holds, chains, context.progress));
+        verdicts.push_back(Judge(conditions[i].holds, chains));
         rows.push_back(VerdictRow(arguments.Text(i + 1), verdicts[i]));
         all *= conditions[i].holds;
     }
     if (conditions.size() > 1)
-        rows.push_back(VerdictRow("all together", Judge(all, chains, context.progress)));
+        rows.push_back(VerdictRow("all together", Judge(all, chains)));
 
     auto const count = static_cast<Eigen::Index>(conditions.size());
     context.output.Text("\nTest of " + Count(count, "condition", "conditions") + " on " + name + "\n"

@@ -40,6 +40,7 @@ public:
 
     /// Of a string or a name; empty for others.
     std::string const& Text(Which const& which) const { return At(which).text; }
+    bool IsString(Which const& which) const { return At(which).kind == Argument::Kind::String; }
     Position PositionOf(Which const& which) const { return At(which).position; }
 
     /// The place in the script of a byte of a string.

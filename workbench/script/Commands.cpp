@@ -10,6 +10,7 @@
 #include "workbench/script/Output.h"
 #include "workbench/script/OutsideCommands.h"
 #include "workbench/script/PlotCommands.h"
+#include "workbench/script/PostEstimationCommands.h"
 #include "workbench/script/Print.h"
 
 namespace workbench
@@ -146,6 +147,12 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Writes a dataset to a file of delimited text.",
          RunExport},
+        {"forecast",
+         {{"model", Kind::ModelName}, {"periods", Kind::Number}},
+         Naming::Optional,
+         "Forecasts the dependent variable of a model for some periods.",
+         RunForecast,
+         {{"W", Kind::Matrix}}},
         {"help", {}, Naming::Never, "Lists the commands.", RunHelp},
         {"import",
          {{"path", Kind::String}, {"delimiter", Kind::Delimiter}},
@@ -168,6 +175,12 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Replaces the whole workspace by that of a workspace file.",
          RunLoad},
+        {"mfx",
+         {{"model", Kind::ModelName}},
+         Naming::Optional,
+         "Tells how much the dependent variable of a model changes with each regressor.",
+         RunEffects,
+         {{"point", Kind::Point}, {"type", Kind::Number}}},
         {"plot",
          {{"name", Kind::ObjectName},
           {"variables", Kind::String},
@@ -177,6 +190,12 @@ std::vector<Command> const& Commands()
          "Draws variables of a dataset or the draws of a model: as a histogram, scatter, history, density, "
          "lines, correlogram, or all of those for one variable.",
          RunPlot},
+        {"predict",
+         {{"model", Kind::ModelName}, {"dataset", Kind::DatasetName}},
+         Naming::Never,
+         "Makes variables of a dataset that predict the dependent variable of a model.",
+         RunPredict,
+         {{"prefix", Kind::Word}, {"stats", Kind::Flag}, {"type", Kind::Number}}},
         {"print",
          {{"name", Kind::ObjectName}},
          Naming::Never,
@@ -192,6 +211,14 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Puts the observations of a dataset in the order of variables.",
          RunSort},
+        {"store",
+         {{"model", Kind::ModelName},
+          {"element", Kind::String},
+          {"dataset", Kind::DatasetName},
+          {"name", Kind::String}},
+         Naming::Never,
+         "Makes a variable of a dataset from the fitted values or the residuals of a model.",
+         RunStore},
         {"structure",
          {{"dataset", Kind::DatasetName},
           {"time", Kind::String},

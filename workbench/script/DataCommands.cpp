@@ -29,6 +29,17 @@ Outcome ReplaceDataset(Context const& context, std::string const& name,
     return outcome;
 }
 
+void TellVariable(std::string const& dataset, std::string const& variable, Eigen::Index observations,
+                  Eigen::Index missing, Eigen::Index infinite, Output& output)
+{
+    std::string text = "\n" + dataset + "." + variable + ": "
+                       + Count(observations, "observation", "observations") + ", "
+                       + std::to_string(missing) + " missing";
+    if (infinite > 0)
+        text += ", " + std::to_string(infinite) + " infinite";
+    output.Text(text + "\n");
+}
+
 void PrintStructure(std::string const& name, Structure const& structure, Output& output)
 {
     if (structure.IsEmpty())
@@ -56,12 +67,7 @@ Outcome RunCreate(Context const& context, Arguments const& arguments)
         throw ScriptError(error.what(), arguments.PlaceIn(2, error.offset));
     }
     auto const made = WithVariable(*dataset, name, computed.values, context.progress);
-    std::string text = "\n" + owner + "." + name + ": "
-                       + Count(dataset->data.rows(), "observation", "observations") + ", "
-                       + std::to_string(computed.missing) + " missing";
-    if (computed.infinite > 0)
-        text += ", " + std::to_string(computed.infinite) + " infinite";
-    context.output.Text(text + "\n");
+    TellVariable(owner, name, dataset->data.rows(), computed.missing, computed.infinite, context.output);
     if (computed.undefined > 0)
         context.output.Warning(
             "The expression has no value in " + Count(computed.undefined, "observation", "observations")

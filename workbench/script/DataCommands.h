@@ -19,6 +19,10 @@ Outcome RunSummarize(Context const& context, Arguments const& arguments);
 Outcome ReplaceDataset(Context const& context, std::string const& name,
                        std::shared_ptr<Dataset> const& made, std::vector<std::string> const& touched);
 
+/// Prints how many values a new variable has: "d.x: 16 observations, 2 missing".
+void TellVariable(std::string const& dataset, std::string const& variable, Eigen::Index observations,
+                  Eigen::Index missing, Eigen::Index infinite, Output& output);
+
 /// Prints one line on the structure of the dataset `name`, or nothing if it is empty.
 void PrintStructure(std::string const& name, Structure const& structure, Output& output);
 } // namespace workbench

@@ -113,11 +113,10 @@ TEST_CASE("what is no condition on the model is refused")
 
 TEST_CASE("a verdict counts the draws in which a condition is defined")
 {
-    workbench::Progress progress;
-    auto const verdict = workbench::Judge(Evaluated("log( m.beta ) > 0").holds, 1, progress);
+    auto const verdict = workbench::Judge(Evaluated("log( m.beta ) > 0").holds, 1);
     CHECK(verdict.draws == 3);
     CHECK(verdict.probability == Approx(1.0 / 3.0));
-    auto const none = workbench::Judge(Eigen::ArrayXd::Constant(4, NA), 1, progress);
+    auto const none = workbench::Judge(Eigen::ArrayXd::Constant(4, NA), 1);
     CHECK(none.draws == 0);
     CHECK(std::isnan(none.probability));
     CHECK(std::isnan(none.error));

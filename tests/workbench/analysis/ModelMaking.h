@@ -24,3 +24,19 @@ inline std::shared_ptr<Model> ModelOfLogML(double lewisRaftery, double chibJelia
     model->results["logML"] = Eigen::RowVector2d(lewisRaftery, chibJeliazkov);
     return model;
 }
+
+/// A linear regression on the dataset d: `draws` has a column for each of `regressors`, and two more for
+/// tau and sigma.
+inline std::shared_ptr<Model> RegressionOfDraws(std::string const& dependent,
+                                                std::vector<std::string> const& regressors,
+                                                Eigen::MatrixXd const& draws)
+{
+    auto names = regressors;
+    names.insert(names.end(), {"tau", "sigma"});
+    auto const model = ModelOfDraws(names, draws);
+    model->type = "linear regression";
+    model->dataset = "d";
+    model->dependent = dependent;
+    model->independent = regressors;
+    return model;
+}

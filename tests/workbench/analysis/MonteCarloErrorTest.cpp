@@ -6,8 +6,6 @@
 #include <limits>
 #include <random>
 
-#include "workbench/Recorder.h"
-#include "workbench/engine/Progress.h"
 
 namespace
 {
@@ -15,8 +13,7 @@ double const NA = std::numeric_limits<double>::quiet_NaN();
 
 double ErrorOfMean(Eigen::ArrayXd const& values, int chains = 1)
 {
-    workbench::Progress progress;
-    return workbench::MonteCarloError(values, chains, progress);
+    return workbench::MonteCarloError(values, chains);
 }
 
 /// Zeros and ones, `share` of them ones, each draw standing `times` times.

@@ -32,8 +32,7 @@ struct TestDesk : DataDesk
 /// The error of the share of draws in `holds`, as the table has it.
 std::string ErrorCell(Eigen::ArrayXd const& holds)
 {
-    workbench::Progress progress;
-    return zenqo::FormatNumber(workbench::MonteCarloError(holds, 2, progress));
+    return zenqo::FormatNumber(workbench::MonteCarloError(holds, 2));
 }
 
 /// `cell` on the right of a column as wide as `width`.
