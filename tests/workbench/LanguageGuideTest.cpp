@@ -76,7 +76,7 @@ TEST_CASE("the examples of the language guide run")
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const examples = Examples(Guide());
-    CHECK(examples.size() == 23);
+    CHECK(examples.size() == 24);
     for (auto const& example : examples)
     {
         INFO(example);
