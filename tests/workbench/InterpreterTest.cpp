@@ -194,8 +194,8 @@ TEST_CASE("a command is used as its entry says")
     Desk desk;
     CHECK(desk.Failure("xyzzy();")
           == "Line 1, column 1: there is no command \"xyzzy\"; the commands are: "
-             "clear, compare, create, design, drop, export, forecast, help, import, load, mfx, plot, predict, "
-             "print, save, sort, store, structure, summarize, test");
+             "clear, compare, create, design, drop, export, forecast, help, import, jags, load, mfx, plot, "
+             "predict, print, save, sort, store, structure, summarize, test");
     CHECK(desk.Failure("load();")
           == "Line 1, column 1: \"load\" does not take 0 arguments; expected load(\"path\");");
     CHECK(desk.Failure("load(\"a\", \"b\");")
