@@ -56,6 +56,7 @@ private:
             benchmarks::MeasureImport(table);
             benchmarks::MeasureData(table);
             benchmarks::MeasureAnalysis(table);
+            benchmarks::MeasureEstimation(table);
             m_status = table.AllKept() ? 0 : 1;
         }
         catch (std::exception const& error)

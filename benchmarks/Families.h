@@ -17,5 +17,6 @@ void MeasureStart(Table& table);
 void MeasureImport(Table& table);
 void MeasureData(Table& table);
 void MeasureAnalysis(Table& table);
+void MeasureEstimation(Table& table);
 ///@}
 } // namespace benchmarks

@@ -121,6 +121,18 @@ TEST_CASE("matrices are made, copied, replaced and printed")
     CHECK(desk.output.matrices[0] == b);
 }
 
+TEST_CASE("a matrix is exported without names, each number as short as brings it back")
+{
+    Scratch scratch;
+    Desk desk;
+    auto const path = scratch.Path("m.txt");
+    REQUIRE(desk.Run("m = [1, 0.1; -inf, nan; 1e300, -0.5]; export(m, \"" + path + "\", \"\\t\");"));
+    CHECK(ReadFile(path) == "1\t0.1\n-inf\tNaN\n1e+300\t-0.5\n");
+    CHECK(desk.Failure("e = []; export(e, \"" + path + "\", \",\");")
+          == "Line 1, column 9: matrix \"e\" has no elements: there is nothing to export");
+    CHECK(ReadFile(path).size() > 0);
+}
+
 TEST_CASE("a copy shares nothing with what it was made of")
 {
     Scratch scratch;
@@ -195,7 +207,7 @@ TEST_CASE("a command is used as its entry says")
     CHECK(desk.Failure("xyzzy();")
           == "Line 1, column 1: there is no command \"xyzzy\"; the commands are: "
              "clear, compare, create, design, drop, export, forecast, help, import, jags, load, mfx, plot, "
-             "predict, print, save, sort, store, structure, summarize, test");
+             "predict, print, regress, save, sort, store, structure and 2 more");
     CHECK(desk.Failure("load();")
           == "Line 1, column 1: \"load\" does not take 0 arguments; expected load(\"path\");");
     CHECK(desk.Failure("load(\"a\", \"b\");")

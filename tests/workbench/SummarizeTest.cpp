@@ -166,18 +166,18 @@ TEST_CASE("the statement prints a table with tabs")
     desk.Run("cars = import(\"cars.csv\", \",\"); air = import(\"airquality.csv\", \",\");");
     CHECK(desk.Run("summarize(cars, \"mpg\");")
           == "\nSummary of cars: 1 variable, available observations\n"
-             "variable\tobs\t   mean\tst.dev.\t min\t    q1\tmedian\t  q3\t max\n"
-             "mpg     \t 32\t20.0906\t6.02695\t10.4\t15.425\t  19.2\t22.8\t33.9\n");
+             "variable \tobs\t   mean\tst.dev.\t min\t    q1\tmedian\t  q3\t max\n"
+             "mpg      \t 32\t20.0906\t6.02695\t10.4\t15.425\t  19.2\t22.8\t33.9\n");
     // The names of the columns are those of the sample file.
     CHECK(desk.Run("summarize(air, \"Ozone Wind\", \"available\");")
           == "\nSummary of air: 2 variables, available observations\n"
-             "variable\tobs\t   mean\tst.dev.\tmin\t q1\tmedian\t   q3\t max\n"
-             "Ozone   \t116\t42.1293\t32.9879\t  1\t 18\t  31.5\t63.25\t 168\n"
-             "Wind    \t153\t9.95752\t  3.523\t1.7\t7.4\t   9.7\t 11.5\t20.7\n");
+             "variable \tobs\t   mean\tst.dev.\tmin\t q1\tmedian\t   q3\t max\n"
+             "Ozone    \t116\t42.1293\t32.9879\t  1\t 18\t  31.5\t63.25\t 168\n"
+             "Wind     \t153\t9.95752\t  3.523\t1.7\t7.4\t   9.7\t 11.5\t20.7\n");
     auto const complete = desk.Run("summarize(air, \"Wind Ozone\", \"complete\");");
     CHECK(complete.find("\nSummary of air: 2 variables, complete observations\n") == 0);
-    CHECK(complete.find("\nWind    \t116\t") != std::string::npos);
-    CHECK(complete.find("\nOzone   \t116\t42.1293\t") != std::string::npos);
+    CHECK(complete.find("\nWind     \t116\t") != std::string::npos);
+    CHECK(complete.find("\nOzone    \t116\t42.1293\t") != std::string::npos);
 }
 
 TEST_CASE("a summary of nothing, of letters outside ASCII, and of no observation")
@@ -189,15 +189,15 @@ TEST_CASE("a summary of nothing, of letters outside ASCII, and of no observation
     desk.workspace.Assign("d", dataset);
     CHECK(desk.Run("summarize(d, \"\xC3\xA9t\xC3\xA9 b\", \"complete\");")
           == "\nSummary of d: 2 variables, complete observations\n"
-             "variable\tobs\tmean\tst.dev.\tmin\tq1\tmedian\tq3\tmax\n"
-             "\xC3\xA9t\xC3\xA9     \t  0\t   .\t      .\t  .\t .\t     .\t .\t  .\n"
-             "b       \t  0\t   .\t      .\t  .\t .\t     .\t .\t  .\n");
+             "variable \tobs\tmean\tst.dev.\tmin\tq1\tmedian\tq3\tmax\n"
+             "\xC3\xA9t\xC3\xA9      \t  0\t   .\t      .\t  .\t .\t     .\t .\t  .\n"
+             "b        \t  0\t   .\t      .\t  .\t .\t     .\t .\t  .\n");
     CHECK(desk.Run("summarize(d, \"\xC3\xA9t\xC3\xA9\");")
           == "\nSummary of d: 1 variable, available observations\n"
-             "variable\tobs\tmean\tst.dev.\tmin\tq1\tmedian\tq3\tmax\n"
-             "\xC3\xA9t\xC3\xA9     \t  1\t   5\t      .\t  5\t 5\t     5\t 5\t  5\n");
+             "variable \tobs\tmean\tst.dev.\tmin\tq1\tmedian\tq3\tmax\n"
+             "\xC3\xA9t\xC3\xA9      \t  1\t   5\t      .\t  5\t 5\t     5\t 5\t  5\n");
     desk.workspace.Assign("none", workbench::MakeDataset({"x"}, 0));
-    CHECK(desk.Run("summarize(none, \"x\");").find("\nx       \t  0\t   .\t") != std::string::npos);
+    CHECK(desk.Run("summarize(none, \"x\");").find("\nx        \t  0\t   .\t") != std::string::npos);
 }
 
 TEST_CASE("what cannot be summarized is told")

@@ -77,8 +77,12 @@ bool Same(Workspace const& a, Workspace const& b)
                     })
            && SameMaps(a.matrices, b.matrices, [](auto const& x, auto const& y) { return Same(*x, *y); })
            && SameMaps(a.models, b.models,
-                       [&](auto const& x, auto const& y) {
-                           return x->drawNames == y->drawNames
+                       [&](auto const& x, auto const& y)
+                       {
+                           return x->drawNames == y->drawNames && Same(x->draws, y->draws)
+                                  && x->chains == y->chains && x->type == y->type
+                                  && x->dataset == y->dataset && x->dependent == y->dependent
+                                  && x->independent == y->independent
                                   && SameMaps(x->results, y->results, matrices);
                        })
            && a.structures == b.structures;
@@ -120,6 +124,18 @@ Workspace Example()
     model->results["draws, all"] = Eigen::MatrixXd::Random(5, 3);
     workspace.Assign("ols", model);
     workspace.Assign("bare", std::make_shared<Model>());
+    auto const drawn = std::make_shared<Model>(*model);
+    drawn->draws = Eigen::MatrixXd::Random(6, 3);
+    drawn->draws(2, 1) = FromBits(0x7FF0000000000001);
+    drawn->chains = 2;
+    drawn->type = "linear regression";
+    drawn->dataset = "w\xC3\xA4ges";
+    drawn->dependent = "wage";
+    drawn->independent = {"constant", "educ"};
+    workspace.Assign("drawn", drawn);
+    auto const told = std::make_shared<Model>();
+    told->dependent = "wage";
+    workspace.Assign("told", told);
     return workspace;
 }
 
@@ -183,10 +199,10 @@ std::string Forge(std::string const& path, Entries const& entries, int method = 
 }
 
 std::string Manifest(std::string const& matrices, std::string const& datasets = "",
-                     std::string const& version = "1")
+                     std::string const& version = "1", std::string const& models = "")
 {
     return "{\"format\": \"Zenqo workspace\", \"version\": " + version + ", \"datasets\": [" + datasets
-           + "], \"matrices\": [" + matrices + "], \"models\": []}";
+           + "], \"matrices\": [" + matrices + "], \"models\": [" + models + "]}";
 }
 
 std::string Array(Eigen::Index rows, Eigen::Index cols, std::string const& values,
@@ -292,6 +308,15 @@ TEST_CASE("random workspaces with hostile texts come back")
             model->drawNames = texts(5);
             for (auto m = random() % 4; m > 0; --m)
                 model->results[text()] = matrix(2, 2);
+            if (!model->drawNames.empty() && random() % 2 == 0)
+            {
+                model->chains = static_cast<int>(1 + random() % 3);
+                model->draws = matrix(2 * model->chains, static_cast<Eigen::Index>(model->drawNames.size()));
+            }
+            model->type = text();
+            model->dataset = text();
+            model->dependent = text();
+            model->independent = texts(3);
             workspace.Assign(text(), model);
         }
         Save(workspace, path);
@@ -398,6 +423,76 @@ TEST_CASE("a file that is no workspace is one clear error")
     CHECK(dataset("\"a\"", column) == "(no error)");
 }
 
+TEST_CASE("models of files from before there were draws load, and bad draws are refused")
+{
+    Scratch const scratch;
+    auto const path = scratch.Path("forged.zws");
+    auto const forge = [&](std::string const& keys)
+    {
+        return Forge(path,
+                     {{"d.npy", Array(4, 2, Bytes({1, 2, 3, 4, 5, 6, 7, 8}))},
+                      {"workspace.json", Manifest("", "", "1",
+                                                  "{\"name\": \"m\", \"drawNames\": [\"beta\", \"tau\"], "
+                                                  "\"results\": []"
+                                                      + keys + "}")}});
+    };
+    auto const old = Forge(path, {{"workspace.json",
+                                   Manifest("", "", "1", "{\"name\": \"m\", \"drawNames\": [\"beta\"], "
+                                                         "\"results\": []}")}});
+    auto const model = Load(old).models.at("m");
+    CHECK(model->drawNames == Texts{"beta"});
+    CHECK(model->draws.size() == 0);
+    CHECK(model->chains == 0);
+    CHECK(model->type.empty());
+
+    auto const draws = [](std::string const& chains)
+    { return ", \"draws\": {\"file\": \"d.npy\", \"chains\": " + chains + "}"; };
+    auto const drawn = Load(forge(draws("2"))).models.at("m");
+    CHECK(drawn->chains == 2);
+    CHECK(drawn->draws(3, 1) == 8);
+
+    auto const misfit = DAMAGED + "it has draws that do not fit their names or chains";
+    auto const noNumber = DAMAGED + "its manifest tells of no number of chains where it should";
+    CHECK(LoadFailure(forge(draws("3"))) == misfit);
+    CHECK(LoadFailure(forge(draws("0"))) == misfit);
+    CHECK(LoadFailure(forge(draws("-1"))) == noNumber);
+    CHECK(LoadFailure(forge(draws("1.5"))) == noNumber);
+    CHECK(LoadFailure(forge(draws("\"2\""))) == noNumber);
+    CHECK(LoadFailure(forge(draws("3000000000"))) == noNumber);
+    CHECK(LoadFailure(forge(", \"draws\": {\"file\": \"d.npy\"}")) == DAMAGED + "its manifest is malformed");
+    CHECK(LoadFailure(forge(", \"draws\": null")) == DAMAGED + "its manifest is malformed");
+    CHECK(LoadFailure(forge("")) == DAMAGED + "it holds entries of which its manifest does not tell");
+    CHECK(LoadFailure(forge(draws("2") + ", \"estimation\": {}")) == DAMAGED + "its manifest is malformed");
+    CHECK(LoadFailure(forge(draws("2")
+                            + ", \"estimation\": {\"type\": 1, \"dataset\": \"\", \"dependent\": \"\", "
+                              "\"independent\": []}"))
+          == DAMAGED + "its manifest has no text where one is expected");
+    CHECK(LoadFailure(forge(draws("2")
+                            + ", \"estimation\": {\"type\": \"\", \"dataset\": \"\", \"dependent\": \"\", "
+                              "\"independent\": \"\"}"))
+          == DAMAGED + "its manifest has no list \"independent\"");
+    CHECK(LoadFailure(forge(draws("2") + ", \"other\": 1")) == DAMAGED + "its manifest is malformed");
+    CHECK(LoadFailure(Forge(path, {{"d.npy", Array(0, 1, "")},
+                                   {"workspace.json",
+                                    Manifest("", "", "1", "{\"name\": \"m\", \"drawNames\": [\"a\"], "
+                                                          "\"results\": []"
+                                                              + draws("1") + "}")}}))
+          == misfit);
+}
+
+TEST_CASE("a model without draws makes the same file as before there were any")
+{
+    Scratch const scratch;
+    Workspace workspace;
+    auto const model = std::make_shared<Model>();
+    model->drawNames = {"beta"};
+    workspace.Assign("m", model);
+    Save(workspace, scratch.Path("w.zws"));
+    auto const bytes = ReadFile(scratch.Path("w.zws"));
+    CHECK(bytes.find("\"draws\"") == std::string::npos);
+    CHECK(bytes.find("\"estimation\"") == std::string::npos);
+}
+
 TEST_CASE("an array that claims more than it holds is refused before memory is asked for")
 {
     Scratch const scratch;
@@ -493,6 +588,27 @@ TEST_CASE("what a file could not bring back is not saved")
     workspace.datasets["d"]->labelledColumns[1] = {{}, {"gr\xFC\xDF"}};
     CHECK(SaveFailure(workspace, path)
           == "dataset \"d\" holds a text that is not UTF-8, which a workspace file cannot keep");
+
+    auto const model = std::make_shared<Model>();
+    model->drawNames = {"beta"};
+    model->draws = Eigen::MatrixXd::Zero(3, 1);
+    auto const misfit = "model \"b\" has draws that do not fit its names or chains: it cannot be saved";
+    workspace = Workspace();
+    workspace.Assign("b", model);
+    for (int const chains : {0, 2, -1})
+    {
+        model->chains = chains;
+        CHECK(SaveFailure(workspace, path) == misfit);
+    }
+    model->chains = 3;
+    model->drawNames = {"beta", "tau"};
+    CHECK(SaveFailure(workspace, path) == misfit);
+    model->draws.resize(0, 0);
+    CHECK(SaveFailure(workspace, path) == misfit);
+    model->chains = 0;
+    model->independent = {"gr\xFC\xDF"};
+    CHECK(SaveFailure(workspace, path)
+          == "model \"b\" holds a text that is not UTF-8, which a workspace file cannot keep");
 
     workspace = Numbered(1, 2);
     workspace.matrices["d"] = workspace.matrices["m"];

@@ -154,4 +154,31 @@ void ExportDelimited(Dataset const& dataset, std::string const& path, char delim
     scope.Update(1.0);
     writer.Commit();
 }
+
+void ExportMatrix(Eigen::MatrixXd const& matrix, std::string const& name, std::string const& path,
+                  char delimiter, Progress& progress)
+{
+    CheckDelimiter(delimiter);
+    if (matrix.size() == 0)
+        throw Error("matrix " + Quoted(name) + " has no elements: there is nothing to export");
+    ProgressScope scope(progress, "Exporting " + path);
+    Writer writer(path);
+    for (Eigen::Index row = 0; row < matrix.rows(); ++row)
+    {
+        for (Eigen::Index col = 0; col < matrix.cols(); ++col)
+        {
+            if (col > 0)
+                writer.Put(delimiter);
+            double const value = matrix(row, col);
+            if (std::isnan(value))
+                writer.Put("NaN");
+            else
+                writer.PutNumber(value);
+        }
+        writer.Put('\n');
+        if (writer.PassOn())
+            scope.Update(static_cast<std::uint64_t>(row), static_cast<std::uint64_t>(matrix.rows()));
+    }
+    writer.Commit();
+}
 } // namespace workbench

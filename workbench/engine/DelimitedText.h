@@ -28,4 +28,10 @@ void ExportDelimited(Dataset const& dataset, std::string const& path, char delim
 
 /// Throws an Error if `delimiter` could be taken for a part of a number or a name, or for a quote.
 void CheckDelimiter(char delimiter);
+
+/// Writes the numbers of `matrix`, a line for each row and without names, whole or not at all. Each has
+/// as few digits as bring it back; a missing one is NaN. Throws an Error if the file cannot be written or
+/// the matrix has no elements. `name` is the matrix's, for messages.
+void ExportMatrix(Eigen::MatrixXd const& matrix, std::string const& name, std::string const& path,
+                  char delimiter, Progress& progress);
 } // namespace workbench

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <deque>
 #include <initializer_list>
+#include <iterator>
+#include <limits>
 #include <set>
 
 #include <nlohmann/json.hpp>
@@ -40,9 +42,15 @@ std::string EntryName(char const* folder, std::size_t index)
     return std::string(folder) + "/" + std::to_string(index) + ".npy";
 }
 
-std::string ResultName(std::size_t model, std::size_t index)
+bool HasDraws(Model const& model) { return model.draws.size() > 0; }
+
+/// Whether the draws are a column for each name and chains of one length, or there are none at all.
+bool DrawsFit(Model const& model)
 {
-    return EntryName(("models/" + std::to_string(model)).c_str(), index);
+    if (!HasDraws(model))
+        return model.draws.rows() == 0 && model.draws.cols() == 0 && model.chains == 0;
+    return model.draws.cols() == static_cast<Eigen::Index>(model.drawNames.size()) && model.chains > 0
+           && model.draws.rows() % model.chains == 0;
 }
 
 // ---------------------------------------------------------------------------------------- saving
@@ -96,6 +104,15 @@ json DescribeDataset(std::string const& name, Dataset const& dataset, Structure 
             {"time", structure.time}, {"format", structure.format}, {"group", structure.group}};
     }
     return entry;
+}
+
+/// What `model` was estimated from.
+json DescribeEstimation(Model const& model, std::string const& owner)
+{
+    return {{"type", Checked(model.type, owner)},
+            {"dataset", Checked(model.dataset, owner)},
+            {"dependent", Checked(model.dependent, owner)},
+            {"independent", CheckedArray(model.independent, owner)}};
 }
 
 /// Hands what libzip writes to an AtomicFile. libzip calls it through a C function, which no
@@ -287,6 +304,31 @@ private:
     std::uint64_t m_bytes = 0;
 };
 
+/// Adds the arrays of a model, the one with the number `index`, to `contents`.
+json DescribeModel(std::string const& name, Model const& model, std::size_t index, Contents& contents)
+{
+    auto const owner = "model " + Quoted(name);
+    if (!DrawsFit(model))
+        throw Error(owner + " has draws that do not fit its names or chains: it cannot be saved");
+    auto const folder = "models/" + std::to_string(index);
+    json results = json::array();
+    for (auto const& [key, value] : model.results)
+    {
+        auto const file = contents.Add(EntryName(folder.c_str(), results.size()), value);
+        results.push_back({{"name", Checked(key, owner)}, {"file", file}});
+    }
+    json entry = {{"name", Checked(name, owner)},
+                  {"drawNames", CheckedArray(model.drawNames, owner)},
+                  {"results", results}};
+    if (HasDraws(model))
+        entry["draws"] = {{"file", contents.Add(folder + "/draws.npy", model.draws)},
+                          {"chains", model.chains}};
+    auto const estimation = DescribeEstimation(model, owner);
+    if (estimation != DescribeEstimation(Model(), owner))
+        entry["estimation"] = estimation;
+    return entry;
+}
+
 // --------------------------------------------------------------------------------------- loading
 
 /// What is wrong with an archive; becomes an Error that names the file.
@@ -296,7 +338,7 @@ struct Damage : std::runtime_error
 };
 
 /// An object of the manifest, which must have exactly the keys `keys`.
-json const& CheckedKeys(json const& object, std::initializer_list<char const*> keys)
+json const& CheckedKeys(json const& object, std::vector<char const*> const& keys)
 {
     if (!object.is_object() || object.size() != keys.size())
         throw Damage("its manifest is malformed");
@@ -304,6 +346,16 @@ json const& CheckedKeys(json const& object, std::initializer_list<char const*> k
         if (!object.contains(key))
             throw Damage("its manifest lacks " + Quoted(key));
     return object;
+}
+
+/// An entry of the manifest, which must have the keys `keys` and may have those of `further`.
+json const& CheckedKeys(json const& object, std::initializer_list<char const*> keys,
+                        std::initializer_list<char const*> further)
+{
+    std::vector<char const*> all(keys);
+    std::copy_if(further.begin(), further.end(), std::back_inserter(all),
+                 [&](char const* key) { return object.contains(key); });
+    return CheckedKeys(object, all);
 }
 
 json const& ArrayAt(json const& object, char const* key)
@@ -495,10 +547,7 @@ LabelledColumn ReadLabels(json const& entry, Dataset& dataset, int& column)
 
 std::shared_ptr<Dataset> ReadDataset(json const& entry, Archive& archive)
 {
-    if (entry.contains("structure"))
-        CheckedKeys(entry, {"name", "file", "variables", "text", "structure"});
-    else
-        CheckedKeys(entry, {"name", "file", "variables", "text"});
+    CheckedKeys(entry, {"name", "file", "variables", "text"}, {"structure"});
     auto dataset = std::make_shared<Dataset>();
     dataset->data = archive.ReadMatrix(Text(entry.at("file")));
     for (auto const& variable : Texts(entry, "variables"))
@@ -545,9 +594,22 @@ std::shared_ptr<Eigen::MatrixXd> ReadMatrix(json const& entry, Archive& archive)
     return std::make_shared<Eigen::MatrixXd>(archive.ReadMatrix(Text(entry.at("file"))));
 }
 
+void ReadDraws(json const& entry, Archive& archive, Model& model)
+{
+    CheckedKeys(entry, {"file", "chains"});
+    auto const& chains = entry.at("chains");
+    if (!chains.is_number_unsigned()
+        || chains.get<std::uint64_t>() > static_cast<std::uint64_t>(std::numeric_limits<int>::max()))
+        throw Damage("its manifest tells of no number of chains where it should");
+    model.chains = chains.get<int>();
+    model.draws = archive.ReadMatrix(Text(entry.at("file")));
+    if (!HasDraws(model) || !DrawsFit(model))
+        throw Damage("it has draws that do not fit their names or chains");
+}
+
 std::shared_ptr<Model> ReadModel(json const& entry, Archive& archive)
 {
-    CheckedKeys(entry, {"name", "drawNames", "results"});
+    CheckedKeys(entry, {"name", "drawNames", "results"}, {"draws", "estimation"});
     auto model = std::make_shared<Model>();
     model->drawNames = Texts(entry, "drawNames");
     for (auto const& result : ArrayAt(entry, "results"))
@@ -556,6 +618,17 @@ std::shared_ptr<Model> ReadModel(json const& entry, Archive& archive)
         if (!model->results.emplace(Text(result.at("name")), archive.ReadMatrix(Text(result.at("file"))))
                  .second)
             throw Damage("its manifest has one name for two results");
+    }
+    if (entry.contains("draws"))
+        ReadDraws(entry.at("draws"), archive, *model);
+    if (entry.contains("estimation"))
+    {
+        auto const& told =
+            CheckedKeys(entry.at("estimation"), {"type", "dataset", "dependent", "independent"});
+        model->type = Text(told.at("type"));
+        model->dataset = Text(told.at("dataset"));
+        model->dependent = Text(told.at("dependent"));
+        model->independent = Texts(told, "independent");
     }
     return model;
 }
@@ -625,18 +698,7 @@ void SaveWorkspace(Workspace const& workspace, std::string const& path, Progress
 
     json models = json::array();
     for (auto const& [name, model] : workspace.models)
-    {
-        auto const owner = "model " + Quoted(name);
-        json results = json::array();
-        for (auto const& [key, value] : model->results)
-        {
-            auto const file = contents.Add(ResultName(models.size(), results.size()), value);
-            results.push_back({{"name", Checked(key, owner)}, {"file", file}});
-        }
-        models.push_back({{"name", Checked(name, owner)},
-                          {"drawNames", CheckedArray(model->drawNames, owner)},
-                          {"results", results}});
-    }
+        models.push_back(DescribeModel(name, *model, models.size(), contents));
 
     json const manifest = {{"format", FORMAT},
                            {"version", VERSION},

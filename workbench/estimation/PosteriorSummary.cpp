@@ -4,15 +4,19 @@
 #include <cmath>
 #include <limits>
 
+#include "workbench/analysis/Draws.h"
 #include "workbench/engine/Progress.h"
+#include "workbench/engine/Quantiles.h"
 #include "workbench/estimation/Convergence.h"
-#include "workbench/plot/Distribution.h"
 
 namespace workbench
 {
 namespace
 {
 constexpr double NOTHING = std::numeric_limits<double>::quiet_NaN();
+
+/// Where the quantiles are.
+constexpr std::array<std::size_t, 5> FORTIETHS = {1, 2, 20, 38, 39};
 
 DrawSummary Nothing(std::string const& name)
 {
@@ -37,10 +41,10 @@ DrawSummary Summarize(std::string const& name, Eigen::MatrixXd const& chains)
     summary.error = summary.deviation / std::sqrt(summary.effectiveSize);
     summary.rHat = RHat(chains);
 
-    SortedValues sorted(chains.data(), chains.data() + chains.size());
-    std::sort(sorted.begin(), sorted.end());
-    std::transform(SUMMARY_QUANTILES.begin(), SUMMARY_QUANTILES.end(), summary.quantiles.begin(),
-                   [&](double p) { return Quantile(sorted, p); });
+    std::vector<double> values(chains.data(), chains.data() + chains.size());
+    QuantileTaker quantiles(values.data(), values.data() + values.size());
+    std::transform(FORTIETHS.begin(), FORTIETHS.end(), summary.quantiles.begin(),
+                   [&](std::size_t part) { return quantiles.Take(part, 40); });
     return summary;
 }
 } // namespace
@@ -51,7 +55,7 @@ std::vector<DrawSummary> SummarizeDraws(Model const& model, Progress& progress)
     auto const& draws = model.draws;
     bool const there =
         draws.rows() > 0 && draws.cols() == static_cast<Eigen::Index>(model.drawNames.size());
-    auto const chains = model.chains > 0 && draws.rows() % model.chains == 0 ? model.chains : 1;
+    auto const chains = ChainsOf(model);
     std::vector<DrawSummary> summaries;
     for (auto const& name : model.drawNames)
     {

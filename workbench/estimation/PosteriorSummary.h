@@ -17,7 +17,7 @@ struct DrawSummary
     double mean = 0.0;
     double deviation = 0.0; ///< The standard deviation.
 
-    /// At SUMMARY_QUANTILES, by definition 7 (plot/Distribution.h).
+    /// At 0.025, 0.05, 0.5, 0.95 and 0.975, see QuantileTaker.
     std::array<double, 5> quantiles{};
 
     /// The Monte Carlo standard error of the mean: deviation / sqrt(effective size).
@@ -26,8 +26,6 @@ struct DrawSummary
     double effectiveSize = 0.0; ///< Convergence.h tells of this and the next.
     double rHat = 0.0;
 };
-
-inline constexpr std::array<double, 5> SUMMARY_QUANTILES = {0.025, 0.05, 0.5, 0.95, 0.975};
 
 /// Summarizes the draws of each quantity of `model`, in the order of its names. If the model has no
 /// draws, or not a column of them for each name, all is NaN; if their number is none of so many chains

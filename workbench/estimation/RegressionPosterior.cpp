@@ -36,7 +36,8 @@ RegressionPosterior::RegressionPosterior(RegressionData data, RegressionPrior pr
     Error const apart("the prior precision and the data are too many orders of magnitude apart");
     if (!relative.allFinite())
         throw apart;
-    Eigen::JacobiSVD<Eigen::MatrixXd, Eigen::NoQRPreconditioner> const svd(relative, Eigen::ComputeFullV);
+    Eigen::JacobiSVD<Eigen::MatrixXd, Eigen::NoQRPreconditioner> const svd(relative,
+                                                                           Eigen::ComputeFullV);
     m_precisions = svd.singularValues().array().square();
     m_basis = factor.solve(svd.matrixV());
     // Without a likelihood beta would be m, which is so far from what least squares gives.

@@ -7,6 +7,7 @@
 #include "workbench/engine/WorkspaceFile.h"
 #include "workbench/script/AnalysisCommands.h"
 #include "workbench/script/DataCommands.h"
+#include "workbench/script/EstimationCommands.h"
 #include "workbench/script/Output.h"
 #include "workbench/script/OutsideCommands.h"
 #include "workbench/script/PlotCommands.h"
@@ -61,8 +62,14 @@ Outcome RunDesign(Context const& context, Arguments const& arguments)
 
 Outcome RunExport(Context const& context, Arguments const& arguments)
 {
-    ExportDelimited(*arguments.DatasetAt(0), arguments.Text(1), arguments.Delimiter(2),
-                    context.progress);
+    auto const& name = arguments.Text(0);
+    auto const& path = arguments.Text(1);
+    char const delimiter = arguments.Delimiter(2);
+    auto const object = arguments.AnyObject(0);
+    if (auto const* matrix = std::get_if<std::shared_ptr<Eigen::MatrixXd>>(&object))
+        ExportMatrix(**matrix, name, path, delimiter, context.progress);
+    else
+        ExportDelimited(*arguments.DatasetAt(0), path, delimiter, context.progress);
     return {};
 }
 
@@ -95,7 +102,7 @@ Outcome RunLoad(Context const& context, Arguments const& arguments)
 
 Outcome RunPrint(Context const& context, Arguments const& arguments)
 {
-    Print(arguments.Text(0), arguments.AnyObject(0), context.output);
+    Print(arguments.Text(0), arguments.AnyObject(0), context.output, context.progress);
     PrintStructure(arguments.Text(0), context.workspace.StructureOf(arguments.Text(0)), context.output);
     return {};
 }
@@ -143,9 +150,9 @@ std::vector<Command> const& Commands()
          "Takes variables out of a dataset.",
          RunDrop},
         {"export",
-         {{"name", Kind::DatasetName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}},
+         {{"name", Kind::ObjectName}, {"path", Kind::String}, {"delimiter", Kind::Delimiter}},
          Naming::Never,
-         "Writes a dataset to a file of delimited text.",
+         "Writes a dataset or a matrix to a file of delimited text.",
          RunExport},
         {"forecast",
          {{"model", Kind::ModelName}, {"periods", Kind::Number}},
@@ -201,6 +208,21 @@ std::vector<Command> const& Commands()
          Naming::Never,
          "Shows an object on the console.",
          RunPrint},
+        {"regress",
+         {{"dataset", Kind::DatasetName}, {"dependent", Kind::String}, {"independent", Kind::String}},
+         Naming::Optional,
+         "Estimates a linear regression by Gibbs sampling.",
+         RunRegress,
+         {{"constant", Kind::Flag},
+          {"mean", Kind::Matrix},
+          {"precision", Kind::Matrix},
+          {"shape", Kind::Number},
+          {"rate", Kind::Number},
+          {"draws", Kind::Number},
+          {"burnin", Kind::Number},
+          {"chains", Kind::Number},
+          {"thin", Kind::Number},
+          {"seed", Kind::Number}}},
         {"save",
          {{"path", Kind::String}},
          Naming::Never,

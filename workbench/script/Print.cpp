@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "workbench/engine/Utf8.h"
+#include "workbench/estimation/EstimateRegression.h"
+#include "workbench/script/ModelSummary.h"
 #include "workbench/script/Output.h"
 #include "workbench/script/Table.h"
 
@@ -89,20 +91,26 @@ void PrintMatrix(std::string const& name, Eigen::MatrixXd const& matrix, Output&
         output.Matrix(matrix);
 }
 
-void PrintModel(std::string const& name, Model const& model, Output& output)
+void PrintModel(std::string const& name, Model const& model, Output& output, Progress& progress)
 {
-    std::string text =
-        "\nModel " + name + ": draws of "
-        + Count(static_cast<Eigen::Index>(model.drawNames.size()), "quantity", "quantities") + "\n";
-    for (auto const& drawName : model.drawNames)
-        text += "  " + AsCell(drawName) + "\n";
-    output.Text(text);
+    auto const title = "Model " + name + ": " + DescribeModel(model);
+    if (model.draws.rows() > 0)
+        PrintSummary(title, model, output, progress);
+    else
+    {
+        std::string text = "\n" + title + "\n";
+        for (auto const& drawName : model.drawNames)
+            text += "  " + AsCell(drawName) + "\n";
+        output.Text(text);
+    }
+    if (model.type == LINEAR_REGRESSION)
+        return;
     for (auto const& [key, value] : model.results)
         PrintMatrix(name + ", " + AsCell(key), value, output);
 }
 } // namespace
 
-void Print(std::string const& name, Object const& object, Output& output)
+void Print(std::string const& name, Object const& object, Output& output, Progress& progress)
 {
     std::visit(
         [&](auto const& pointer)
@@ -113,7 +121,7 @@ void Print(std::string const& name, Object const& object, Output& output)
             else if constexpr (std::is_same_v<Pointer, std::shared_ptr<Eigen::MatrixXd>>)
                 PrintMatrix(name, *pointer, output);
             else if constexpr (std::is_same_v<Pointer, std::shared_ptr<Model>>)
-                PrintModel(name, *pointer, output);
+                PrintModel(name, *pointer, output, progress);
         },
         object);
 }

@@ -7,11 +7,13 @@
 namespace workbench
 {
 class Output;
+class Progress;
 
 /// Prints an object under a title line that tells its name and size.
 ///
 /// A dataset becomes a table with tabs between its cells, so that a selection of it copies as a
 /// table: a line of names, then a line for each observation, which begins with its number. Where
 /// the output keeps only so many lines the last observations are printed and the title says which.
-void Print(std::string const& name, Object const& object, Output& output);
+/// A model with draws becomes a summary of them.
+void Print(std::string const& name, Object const& object, Output& output, Progress& progress);
 } // namespace workbench

@@ -8,6 +8,13 @@
 
 namespace workbench
 {
+namespace
+{
+/// The characters from one tab stop to the next. A cell that ends at a stop may by a fraction of a pixel
+/// have reached it or not, and then touches the cell behind it; so no cell ends there.
+constexpr std::size_t TAB_STOP = 8;
+} // namespace
+
 std::string Count(Eigen::Index count, char const* one, char const* many)
 {
     return std::to_string(count) + " " + (count == 1 ? one : many);
@@ -24,7 +31,8 @@ std::string NumberCell(double value) { return std::isnan(value) ? "." : zenqo::F
 
 std::string Pad(std::string const& cell, TableColumn const& column)
 {
-    std::string const blanks(column.width - CountCharacters(cell), ' ');
+    auto const width = column.width % TAB_STOP == 0 ? column.width + 1 : column.width;
+    std::string const blanks(width - CountCharacters(cell), ' ');
     return column.text ? cell + blanks : blanks + cell;
 }
 

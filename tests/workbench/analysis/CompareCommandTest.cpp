@@ -35,10 +35,10 @@ TEST_CASE("models are compared by prior and marginal likelihood")
     CompareDesk desk;
     CHECK(desk.Run("p = compare(\"a b  c\");")
           == "\nComparison of 3 models; Bayes factors against c\n"
-             "model\tapproximation\t  log-ML\t   prior\tposterior\tBayes factor\n"
-             "a    \tLewis-Raftery\t   -5000\t0.333333\t 0.142857\t        0.25\n"
-             "b    \tLewis-Raftery\t-4999.31\t0.333333\t 0.285714\t         0.5\n"
-             "c    \tLewis-Raftery\t-4998.61\t0.333333\t 0.571429\t           1\n");
+             "model\tapproximation\t   log-ML\t    prior\tposterior\tBayes factor\n"
+             "a    \tLewis-Raftery\t    -5000\t 0.333333\t 0.142857\t        0.25\n"
+             "b    \tLewis-Raftery\t -4999.31\t 0.333333\t 0.285714\t         0.5\n"
+             "c    \tLewis-Raftery\t -4998.61\t 0.333333\t 0.571429\t           1\n");
     auto const& p = *desk.workspace.matrices.at("p");
     REQUIRE(p.rows() == 3);
     REQUIRE(p.cols() == 1);
@@ -65,9 +65,9 @@ TEST_CASE("Chib and Jeliazkov's approximation is used where there is one")
              "a    \tChib-Jeliazkov\t  -4000\t  0.5\t     0.25\t    0.333333\n"
              "b    \tChib-Jeliazkov\t-3998.9\t  0.5\t     0.75\t           1\n");
     auto const mixed = desk.Run("compare(\"c onlyCJ\", \"approximation\"=\"CJ\");");
-    CHECK(mixed.find("c     \tLewis-Raftery \t-4998.61\t  0.5\t        0\t           0\n")
+    CHECK(mixed.find("c     \tLewis-Raftery \t -4998.61\t  0.5\t        0\t           0\n")
           != std::string::npos);
-    CHECK(mixed.find("onlyCJ\tChib-Jeliazkov\t      -7\t  0.5\t        1\t           1\n") != std::string::npos);
+    CHECK(mixed.find("onlyCJ\tChib-Jeliazkov\t       -7\t  0.5\t        1\t           1\n") != std::string::npos);
 }
 
 TEST_CASE("probabilities that were rounded to six digits sum to one")

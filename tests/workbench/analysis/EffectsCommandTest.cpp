@@ -57,9 +57,9 @@ TEST_CASE("semi-elasticities and elasticities at the points of the dialog")
     // At the median 2 and 1 it is 6 and 10.
     CHECK(desk.Run("e = mfx(m, \"point\"=\"median\", \"type\"=2);")
           == "\nModel m, semi-elasticities dlnE(y)/dx at the median of the data: 2 draws\n"
-             "x\tat\t     mean\t  st.dev.\t        5%\t   median\t     95%\n"
-             "x\t 2\t 0.366667\t0.0471405\t  0.336667\t 0.366667\t0.396667\n"
-             "z\t 1\t0.0333333\t 0.188562\t-0.0866667\t0.0333333\t0.153333\n");
+             "x\tat\t     mean\t  st.dev.\t        5%\t   median\t      95%\n"
+             "x\t 2\t 0.366667\t0.0471405\t  0.336667\t 0.366667\t 0.396667\n"
+             "z\t 1\t0.0333333\t 0.188562\t-0.0866667\t0.0333333\t 0.153333\n");
     desk.Run("e = mfx(m, \"point\"=\"median\", \"type\"=3);");
     CHECK(Near(desk.Matrix("e"), Table(4 / 6.0, 8 / 10.0, 1 / 6.0, -1 / 10.0)));
     // A point as the dialog writes it.
@@ -92,9 +92,9 @@ TEST_CASE("draws whose expected value has no logarithm are left out and told")
     auto const text = desk.Run("e = mfx(m, \"point\"=[-0.6, 0], \"type\"=2);"); // E(y) is -0.2 and 0.6
     CHECK(text
           == "\nModel m, semi-elasticities dlnE(y)/dx at the given point: 1 draw\n"
-             "x\t  at\t    mean\tst.dev.\t      5%\t  median\t     95%\n"
-             "x\t-0.6\t 6.66667\t      .\t 6.66667\t 6.66667\t 6.66667\n"
-             "z\t   0\t-1.66667\t      .\t-1.66667\t-1.66667\t-1.66667\n");
+             "x\t  at\t     mean\tst.dev.\t       5%\t   median\t      95%\n"
+             "x\t-0.6\t  6.66667\t      .\t  6.66667\t  6.66667\t  6.66667\n"
+             "z\t   0\t -1.66667\t      .\t -1.66667\t -1.66667\t -1.66667\n");
     CHECK(desk.output.warnings
           == std::vector<std::string>{"Left out: 1 draw of 2, in which the expected value of \"y\" is not "
                                       "positive and has no logarithm."});
@@ -106,7 +106,7 @@ TEST_CASE("a variable that is not positive has no elasticity")
 {
     RegressionDesk desk;
     auto const text = desk.Run("mfx(m, \"point\"=[1, 0], \"type\"=3);");
-    CHECK(text.find("\nz\t 0\t       .\t") != std::string::npos);
+    CHECK(text.find("\nz\t 0\t        .\t") != std::string::npos);
     CHECK(desk.output.warnings
           == std::vector<std::string>{"There is no elasticity with respect to \"z\", which is not positive there "
                                       "and has no logarithm."});

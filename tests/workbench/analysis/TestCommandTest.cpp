@@ -67,17 +67,17 @@ TEST_CASE("one condition has no line of all, and what every draw says has no err
     TestDesk desk;
     CHECK(desk.Run("test(m, \"m.k >= 0\");")
           == "\nTest of 1 condition on m\n"
-             "condition\tdraws\tprobability\tst.error\n"
-             "m.k >= 0 \t   20\t          1\t       0\n");
+             "condition\tdraws\tprobability\t st.error\n"
+             "m.k >= 0 \t   20\t          1\t        0\n");
 }
 
 TEST_CASE("draws in which a condition is undefined are left out and told")
 {
     TestDesk desk;
     auto const text = desk.Run("test(m, \"log( m.beta[1] - 18.5 ) > -5\", \"m.k < 4\");");
-    CHECK(text.find("log( m.beta[1] - 18.5 ) > -5\t    2\t          1\t       0\n") != std::string::npos);
-    CHECK(text.find("m.k < 4                     \t   20\t          1\t       0\n") != std::string::npos);
-    CHECK(text.find("all together                \t    2\t          1\t       0\n") != std::string::npos);
+    CHECK(text.find("log( m.beta[1] - 18.5 ) > -5\t    2\t          1\t        0\n") != std::string::npos);
+    CHECK(text.find("m.k < 4                     \t   20\t          1\t        0\n") != std::string::npos);
+    CHECK(text.find("all together                \t    2\t          1\t        0\n") != std::string::npos);
     CHECK(desk.output.warnings
           == std::vector<std::string>{
               "The condition \"log( m.beta[1] - 18.5 ) > -5\" has no value in 18 draws of 20, which are left "
@@ -85,8 +85,8 @@ TEST_CASE("draws in which a condition is undefined are left out and told")
     desk.output.warnings.clear();
     CHECK(desk.Run("test(m, \"sqrt( -m.beta[1] ) == 1\");")
           == "\nTest of 1 condition on m\n"
-             "condition              \tdraws\tprobability\tst.error\n"
-             "sqrt( -m.beta[1] ) == 1\t    0\t          .\t       .\n");
+             "condition              \tdraws\tprobability\t st.error\n"
+             "sqrt( -m.beta[1] ) == 1\t    0\t          .\t        .\n");
     CHECK(desk.output.warnings.size() == 1);
 }
 
