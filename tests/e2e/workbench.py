@@ -8,6 +8,7 @@
 A test file is run as FILE WORKBENCH DRAG_SOURCE [CLASS.TEST ...].
 """
 
+import os
 import sys
 import tempfile
 import time
@@ -160,6 +161,10 @@ class TestCase(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory(prefix="zenqo-e2e-")
         self.addCleanup(scratch.cleanup)
         self.folder = Path(scratch.name)
+        # The program's settings: at first that it begins without its quick-start page.
+        self.settings = self.folder / ".config" / "zenqo-workbench" / "settings.json"
+        self.settings.parent.mkdir(parents=True)
+        self.settings.write_text('{"showQuickStart": false}', encoding="utf-8")
 
     def file(self, name, text):
         """Writes a file into the test's folder; gives its path."""
@@ -169,6 +174,8 @@ class TestCase(unittest.TestCase):
 
     def program(self, *arguments, **options):
         """Starts the program; it ends with the test at the latest."""
+        options.setdefault("env", os.environ)
+        options["env"] = {**options["env"], "XDG_CONFIG_HOME": str(self.folder / ".config")}
         program = desktop.start([WORKBENCH, *arguments], cwd=self.folder, **options)
         self.addCleanup(program.__exit__)
         return program

@@ -36,14 +36,19 @@ class Figures(workbench.TestCase):
         workbench.press_until(lambda: window.title().startswith("macro: history of gdp"), "Up")
 
         picture = self.folder / "history.svg"
-        workbench.press_until(lambda: desktop.windows("Export figure"), "ctrl+e")
-        bench.choose_file("Export figure", picture)
+        workbench.press_until(lambda: desktop.windows("Export Figure"), "ctrl+e")
+        dialog = bench.box("Export Figure", "export-figure")
+        # From the button back over Cancel... to the path, which is the first field.
+        dialog.click(120, 40)
+        desktop.key("ctrl+a")
+        desktop.type_text(str(picture))
+        workbench.press_until(lambda: not dialog.exists(), "Return")
         desktop.wait_until(picture.exists, picture)
         root = xml.etree.ElementTree.parse(picture).getroot()
         texts = [element.text for element in root.iter("{http://www.w3.org/2000/svg}text")]
         self.assertIn("Observation", texts)
         self.assertIn("gdp", texts)
-        self.assertEqual((root.get("width"), root.get("height")), ("720", "480"))
+        self.assertEqual((root.get("width"), root.get("height")), ("400", "250"))
 
         # Away by a key, and back by a key of the workbench.
         workbench.press_until(lambda: not window.exists(), "Escape")

@@ -127,7 +127,7 @@ TEST_CASE("a structure's statement names the format, and empty names take the st
 
 TEST_CASE("a cancelled data dialog composes nothing")
 {
-    for (Ask const ask : {workbench::AskExport, workbench::AskClearDataset, workbench::AskDeleteVariables,
+    for (Ask const ask : {workbench::AskClearDataset, workbench::AskDeleteVariables,
                           workbench::AskCreateVariable, workbench::AskStructure, workbench::AskSort,
                           workbench::AskSummarize, workbench::AskPlot})
         CHECK(AskWith(ask, [](wxDialog*) {}, wxID_CANCEL) == Asked());

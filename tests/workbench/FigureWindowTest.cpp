@@ -180,7 +180,12 @@ TEST_CASE("the copied picture is what another program gets of the clipboard")
     CHECK(pasted.CountColours() > 20);
 }
 
-TEST_CASE("a figure is exported as PNG, SVG and PDF, though its dataset is gone")
+namespace
+{
+wxSize const SIZE(400, 250);
+} // namespace
+
+TEST_CASE("a figure is exported as PNG, SVG and PDF of the given size, though its dataset is gone")
 {
     Window window;
     REQUIRE(window.Plot("x", "history"));
@@ -188,35 +193,39 @@ TEST_CASE("a figure is exported as PNG, SVG and PDF, though its dataset is gone"
     auto const saved = [&](std::string const& name)
     {
         auto const path = window.scratch.Path(name);
-        window.figures->ExportTo(wxString(path), 0);
+        window.figures->ExportTo(wxString(path), wxSize(500, 300));
         CHECK(window.Says("The figure is written to " + path + "."));
         return ReadFile(path);
     };
     saved("f.png");
-    CHECK(wxImage(window.scratch.Path("f.png"), wxBITMAP_TYPE_PNG).GetSize() == wxSize(1440, 960));
-    CHECK(saved("f.svg").find("<text>Observation</text>") != std::string::npos);
-    CHECK(saved("f.pdf").compare(0, 5, "%PDF-") == 0);
+    CHECK(wxImage(window.scratch.Path("f.png"), wxBITMAP_TYPE_PNG).GetSize() == wxSize(500, 300));
+    auto const svg = saved("f.svg");
+    CHECK(svg.find("<text>Observation</text>") != std::string::npos);
+    CHECK(svg.find("width=\"500\" height=\"300\"") != std::string::npos);
+    auto const pdf = saved("f.pdf");
+    CHECK(pdf.compare(0, 5, "%PDF-") == 0);
+    CHECK(pdf.find("/MediaBox [ 0 0 400 240 ]") != std::string::npos);
 }
 
-TEST_CASE("a name without an ending gets one, and the file of that name is replaced after a question only")
+TEST_CASE("a name without an ending gets one, and an existing file is replaced after a question only")
 {
     Window window;
     REQUIRE(window.Plot("x", "history"));
     wxString const path = window.scratch.Path("f");
     auto const file = window.scratch.Write("f.png", "old");
     ModalScript script;
-    script.Then(wxID_NO).Then(wxID_YES);
-    window.figures->ExportTo(path, 0);
+    script.Then(wxID_NO).Then(wxID_YES).Then(wxID_NO);
+    window.figures->ExportTo(path, SIZE);
     CHECK(script.Shown().at(0).text == "f.png exists. Replace it?");
-    CHECK(script.Shown().at(0).caption == "Export figure");
+    CHECK(script.Shown().at(0).caption == "Export Figure");
     CHECK(script.Shown().at(0).style == (wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION));
     CHECK(script.Shown().at(0).parent == window.figures);
     CHECK(ReadFile(file) == "old");
-    window.figures->ExportTo(path, 0);
+    window.figures->ExportTo(path, SIZE);
     CHECK(window.Says("The figure is written to " + file + "."));
     CHECK(ReadFile(file).compare(1, 3, "PNG") == 0);
-    window.figures->ExportTo(path, 2);
-    CHECK(window.Says("The figure is written to " + path.ToStdString() + ".pdf."));
+    window.figures->ExportTo(wxString(file), SIZE);
+    CHECK(script.Shown().size() == 3);
 }
 
 TEST_CASE("the button and its key ask for a file, and nothing is written if there is none")
@@ -238,14 +247,16 @@ TEST_CASE("an export that fails says why and leaves the file")
 {
     Window window;
     REQUIRE(window.Plot("x", "history"));
-    window.figures->ExportTo(wxString("/nowhere/at/all.png"), 0);
+    window.figures->ExportTo(wxString("/nowhere/at/all.png"), SIZE);
     CHECK(window.Says("\"/nowhere/at/all.png\" cannot be written: No such file or directory"));
     auto const path = window.scratch.Path("f.jpg");
-    window.figures->ExportTo(wxString(path), 0);
+    window.figures->ExportTo(wxString(path), SIZE);
     CHECK(window.Says("a figure is written as .png, .svg or .pdf, but \"" + path + "\" has none of these endings"));
     auto const old = window.scratch.Write("old.png", "old");
     FakeGnuplot const failing("echo 'no memory' >&2; exit 1");
-    window.figures->ExportTo(wxString(old), 0);
+    ModalScript script;
+    script.Then(wxID_YES);
+    window.figures->ExportTo(wxString(old), SIZE);
     CHECK(window.Says("gnuplot could not draw the figure: no memory"));
     CHECK(ReadFile(old) == "old");
 }

@@ -2,6 +2,7 @@
 
 #include <wx/arrstr.h>
 
+#include "dialogs/application/ExportMatrixDialog.h"
 #include "dialogs/data/ClearDatasetDialog.h"
 #include "dialogs/data/ClearVariableDialog.h"
 #include "dialogs/data/CreateVariableDialog.h"
@@ -19,6 +20,11 @@ namespace
 {
 /// A delimiter as the script language writes it.
 std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : std::string(1, delimiter); }
+
+std::string ExportCall(std::string const& name, std::string const& path, char delimiter)
+{
+    return CallText("export").Name(name).Text(path).Text(DelimiterText(delimiter)).Done();
+}
 
 /// Shows a dialog in which the dataset `shown` is selected and nothing chosen of it.
 template <class Dialog>
@@ -38,15 +44,22 @@ std::string WithVariables(char const* command, Dialog const& dialog)
 }
 } // namespace
 
-Asked AskExport(wxWindow* parent, DatasetMap& datasets, int shown)
+Asked AskExport(wxWindow* parent, DatasetMap& datasets, int shown, std::string& path)
 {
     ExportDataDialog dialog(parent, &datasets, shown, true);
     if (dialog.ShowModal() != wxID_OK)
         return {};
-    return CallText("export")
-        .Name(dialog.GetDatasetName())
-        .Text(dialog.GetFileName())
-        .Text(DelimiterText(dialog.GetDelimiter())).Done();
+    path = dialog.GetFileName();
+    return ExportCall(dialog.GetDatasetName(), path, dialog.GetDelimiter());
+}
+
+Asked AskExportMatrix(wxWindow* parent, std::string const& matrix, std::string& path)
+{
+    ExportMatrixDialog dialog(parent, "Export Matrix " + Wide(matrix), true, matrix);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    path = dialog.GetFileName();
+    return ExportCall(matrix, path, dialog.GetDelimiter());
 }
 
 Asked AskClearDataset(wxWindow* parent, DatasetMap& datasets, int shown)

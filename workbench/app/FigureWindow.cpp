@@ -4,8 +4,7 @@
 #include <wx/button.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
-#include <wx/filedlg.h>
-#include <wx/filename.h>
+#include <wx/filefn.h>
 #include <wx/listbox.h>
 #include <wx/msgdlg.h>
 #include <wx/sizer.h>
@@ -13,6 +12,7 @@
 #include <wx/stattext.h>
 
 #include "common/Text.h"
+#include "dialogs/application/ExportFigureDialog.h"
 #include "workbench/app/FigureView.h"
 #include "workbench/engine/Error.h"
 #include "workbench/plot/Figure.h"
@@ -22,8 +22,6 @@ namespace workbench
 namespace
 {
 char const* const TITLE = "Figures - Zenqo Workbench";
-char const* const FORMATS = "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF document (*.pdf)|*.pdf";
-char const* const EXTENSIONS[] = {"png", "svg", "pdf"};
 } // namespace
 
 FigureWindow::FigureWindow(wxWindow* parent)
@@ -171,28 +169,26 @@ void FigureWindow::CopyPicture()
 
 void FigureWindow::Export()
 {
-    wxFileDialog dialog(this, "Export figure", wxEmptyString, "figure.png", FORMATS,
-                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+    ExportFigureDialog dialog(this, true, zenqo::ToNarrow(wxFileName(wxGetCwd(), "figure.png").GetFullPath()));
     if (dialog.ShowModal() == wxID_OK)
-        ExportTo(dialog.GetPath(), dialog.GetFilterIndex());
+        ExportTo(dialog.GetFileName(), wxSize(dialog.GetSize1(), dialog.GetSize2()));
 }
 
-void FigureWindow::ExportTo(wxFileName path, int format)
+void FigureWindow::ExportTo(wxFileName path, wxSize const& pixels)
 {
     if (!path.HasExt())
-    {
-        path.SetExt(EXTENSIONS[format]);
-        // The dialog has asked about the name without the ending.
-        if (path.FileExists()
-            && wxMessageBox(path.GetFullName() + " exists. Replace it?", "Export figure",
-                            wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
-            return;
-    }
+        path.SetExt("png");
+    // The path may have been typed, and then nobody has asked yet.
+    if (path.FileExists()
+        && wxMessageBox(path.GetFullName() + " exists. Replace it?", "Export Figure",
+                        wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this)
+               != wxYES)
+        return;
     auto const& figure = *m_entries[static_cast<std::size_t>(m_list->GetSelection())].figure;
     m_exportPath = zenqo::ToNarrow(path.GetFullPath());
     try
     {
-        m_export.Begin(figure, FilePicture(figure, FormatOf(m_exportPath)));
+        m_export.Begin(figure, SizedPicture(FormatOf(m_exportPath), pixels.x, pixels.y));
     }
     catch (Error const& error)
     {

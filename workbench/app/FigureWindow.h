@@ -30,10 +30,10 @@ public:
     /// Comes to the front.
     void BringUp();
 
-    /// Writes the chosen figure to a file, in the format that the ending of `path` names. Without an
-    /// ending it is the one of `format`, 0 for PNG, 1 for SVG and 2 for PDF, and an existing file of
-    /// that name is replaced after a question only. The window tells how it went.
-    void ExportTo(wxFileName path, int format);
+    /// Writes the chosen figure to a file as large as so many pixels, in the format that the ending of
+    /// `path` names; without an ending it is PNG. An existing file is replaced after a question only. The
+    /// window tells how it went.
+    void ExportTo(wxFileName path, wxSize const& pixels);
 
     bool IsEmpty() const { return m_entries.empty(); }
 

@@ -4,7 +4,6 @@
 #include <wx/ffile.h>
 #include <wx/filename.h>
 #include <wx/grid.h>
-#include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 #include <wx/splitter.h>
@@ -15,7 +14,7 @@
 #include "panes/StatusBar.h"
 #include "workbench/app/CallText.h"
 #include "workbench/app/FigureWindow.h"
-#include "workbench/app/ModelForm.h"
+#include "workbench/app/RegressionForm.h"
 #include "workbench/app/SidePanes.h"
 #include "workbench/app/StartPage.h"
 
@@ -28,7 +27,7 @@ char const* const SCRIPT_FILES = "Scripts (*.zqs)|*.zqs|All files|*";
 char const* const TEXT_FILES = "Text data (*.csv;*.txt)|*.csv;*.txt";
 } // namespace
 
-MainFrame::MainFrame(std::string const& samples)
+MainFrame::MainFrame(std::string const& samples, std::string const& settingsFile)
     : wxFrame(nullptr, wxID_ANY, "Zenqo Workbench", wxDefaultPosition, wxSize(1180, 780))
 {
     // The toolkit would realize the window first and show it when the window manager has told the size
@@ -62,6 +61,8 @@ MainFrame::MainFrame(std::string const& samples)
     m_side->Update(m_workspace);
     m_console->PrintOnStartup();
     NoteWhetherSaved();
+    m_preferences.emplace(settingsFile,
+                          [this](std::string const& text) { m_console->PrintOnConsoleWarning(text); });
 }
 
 MainFrame::~MainFrame() = default;
@@ -101,134 +102,17 @@ void MainFrame::MakePages(wxWindow* parent, std::string const& samples)
                   });
 }
 
-void MainFrame::MakeMenus()
-{
-    auto* const bar = new wxMenuBar;
-    MakeFileMenu(*bar);
-    MakeEditMenu(*bar);
-    MakeDataMenu(*bar);
-    MakeModelMenu(*bar);
-    MakeScriptMenu(*bar);
-    MakeViewMenu(*bar);
-    SetMenuBar(bar);
-}
-
-template <class Action>
-void MainFrame::AddEntry(wxMenu& menu, wxString const& label, wxString const& help, Action action)
-{
-    wxMenuItem* const item = menu.Append(wxID_ANY, label, help);
-    Bind(
-        wxEVT_MENU,
-        [this, action](wxCommandEvent&)
-        {
-            if (!m_runner->IsBusy())
-                action();
-        },
-        item->GetId());
-    Bind(
-        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(!m_runner->IsBusy()); },
-        item->GetId());
-}
-
-void MainFrame::MakeFileMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Open workspace...\tCtrl+O", "Replaces the workspace by that of a file",
-             [this] { OpenWorkspace(); });
-    AddEntry(*menu, "&Save workspace\tCtrl+S", "Saves all datasets, matrices and models",
-             [this] { SaveWorkspace(); });
-    AddEntry(*menu, "Save workspace &as...\tCtrl+Shift+S", "Saves the workspace in another file",
-             [this] { SaveWorkspaceAs(); });
-    menu->AppendSeparator();
-    AddEntry(*menu, "&Quit\tCtrl+Q", "Closes the workbench", [this] { Close(); });
-    bar.Append(menu, "&File");
-}
-
-void MainFrame::MakeEditMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Copy\tCtrl+C", "Copies the selection of the console or the grid", [this] { EditKey('C'); });
-    AddEntry(*menu, "Copy as &TeX\tCtrl+T", "Copies the console's selection, its tables as TeX",
-             [this]
-             {
-                 ShowPage(PAGE_CONSOLE);
-                 EditKey('T');
-             });
-    AddEntry(*menu, "Select &all\tCtrl+A", "Selects all of the console or the grid", [this] { EditKey('A'); });
-    menu->AppendSeparator();
-    AddEntry(*menu, "C&lear console\tCtrl+L", "Empties the console", [this] { m_console->ClearConsole(); });
-    bar.Append(menu, "&Edit");
-}
-
-void MainFrame::MakeDataMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Import...\tCtrl+I", "Makes a dataset of a text file", [this] { ImportData(); });
-    auto const add = [this, menu](wxString const& label, wxString const& help, Ask ask, Page page)
-    { AddEntry(*menu, label, help, [=] { AskAndRun(ask, page); }); };
-    add("&Export...\tCtrl+E", "Writes a dataset to a text file", AskExport, PAGE_CONSOLE);
-    menu->AppendSeparator();
-    add("&Create variable...\tCtrl+K", "Makes a variable by an expression", AskCreateVariable, PAGE_DATA);
-    add("&Delete variables...", "Takes variables out of a dataset", AskDeleteVariables, PAGE_DATA);
-    add("&Sort...", "Puts the observations in order", AskSort, PAGE_DATA);
-    add("Set s&tructure...", "Says which variable is time, and which names groups", AskStructure,
-        PAGE_CONSOLE);
-    add("Cle&ar dataset...", "Takes a dataset out of the workspace", AskClearDataset, PAGE_CONSOLE);
-    menu->AppendSeparator();
-    add("S&ummarize...\tCtrl+U", "Prints statistics of variables", AskSummarize, PAGE_CONSOLE);
-    add("P&lot...\tCtrl+G", "Draws variables", AskPlot, PAGE_CONSOLE);
-    menu->AppendSeparator();
-    AddEntry(*menu, "&Print\tCtrl+P", "Prints the shown dataset or matrix on the console",
-             [this] { PrintShown(); });
-    bar.Append(menu, "&Data");
-}
-
-void MainFrame::MakeModelMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Design matrix...\tCtrl+D", "Makes the matrix of one equation's variables and lags",
-             [this] { FillForm<DesignForm>(); });
-    AddEntry(*menu, "&System of equations...", "Makes a matrix for each equation of a system",
-             [this] { FillForm<SystemForm>(); });
-    bar.Append(menu, "&Model");
-}
-
-void MainFrame::MakeScriptMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Run script...\tCtrl+R", "Runs the statements of a file", [this] { RunScript(); });
-    AddEntry(*menu, "&Save session as script...", "Saves what was run since the start",
-             [this] { SaveSession(); });
-    menu->AppendSeparator();
-    wxMenuItem* const stop = menu->Append(wxID_ANY, "S&top\tCtrl+.", "Ends the running command");
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { m_runner->Stop(); }, stop->GetId());
-    Bind(
-        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(m_runner->IsBusy()); }, stop->GetId());
-    bar.Append(menu, "&Script");
-}
-
-void MainFrame::MakeViewMenu(wxMenuBar& bar)
-{
-    auto* const menu = new wxMenu;
-    AddEntry(*menu, "&Start page\tCtrl+1", "Shows the start page", [this] { ShowPage(PAGE_START); });
-    AddEntry(*menu, "&Console\tCtrl+2", "Shows the console", [this] { ShowPage(PAGE_CONSOLE); });
-    AddEntry(*menu, "&Data\tCtrl+3", "Shows the datasets", [this] { ShowPage(PAGE_DATA); });
-    AddEntry(*menu, "&Matrices\tCtrl+4", "Shows the matrices", [this] { ShowPage(PAGE_MATRICES); });
-    wxMenuItem* const figures = menu->Append(wxID_ANY, "&Figures\tCtrl+5", "Shows the plots of this session");
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { m_figures->BringUp(); }, figures->GetId());
-    Bind(
-        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(!m_figures->IsEmpty()); },
-        figures->GetId());
-    bar.Append(menu, "&View");
-}
-
 bool MainFrame::Run(std::string const& script)
 {
     bool const done = m_runner->Run(script);
     NoteWhetherSaved();
     return done;
+}
+
+void MainFrame::GreetUser()
+{
+    if (m_preferences->Get().showQuickStart)
+        m_preferences->ShowQuickStart(this);
 }
 
 bool MainFrame::OpenFile(std::string const& path)
@@ -249,8 +133,10 @@ void MainFrame::OpenWorkspace()
 {
     wxFileDialog dialog(this, "Open workspace", wxEmptyString, wxEmptyString, WORKSPACE_FILES,
                         wxFD_OPEN | wxFD_FILE_MUST_EXIST);
-    if (dialog.ShowModal() == wxID_OK)
-        OpenFile(Narrow(dialog.GetPath()));
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    m_preferences->FollowTo(dialog.GetPath(), &Settings::dirOnLoadWorkspace);
+    OpenFile(Narrow(dialog.GetPath()));
 }
 
 bool MainFrame::SaveWorkspace()
@@ -264,6 +150,7 @@ bool MainFrame::SaveWorkspaceAs()
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     if (dialog.ShowModal() != wxID_OK)
         return false;
+    m_preferences->FollowTo(dialog.GetPath(), &Settings::dirOnSaveWorkspace);
     wxFileName path(dialog.GetPath());
     if (!path.HasExt())
         path.SetExt("zws");
@@ -276,10 +163,35 @@ void MainFrame::ImportData()
                         wxFD_OPEN | wxFD_FILE_MUST_EXIST);
     if (dialog.ShowModal() != wxID_OK)
         return;
+    m_preferences->FollowTo(dialog.GetPath(), &Settings::dirOnImport);
     // From here on it is the way of a file that is dropped on the datasets' tree.
     auto* const files = new wxString[1]{dialog.GetPath()};
     wxDropFilesEvent event(wxEVT_DROP_FILES, 1, files);
     m_side->Datasets().OnDropFiles(event);
+}
+
+void MainFrame::ExportData()
+{
+    if (!HasDatasets())
+        return;
+    std::string path;
+    RunAsked(AskExport(this, m_workspace.datasets, ShownDataset(), path), PAGE_CONSOLE);
+    // Not before: the path may be a relative one.
+    m_preferences->FollowTo(Wide(path), &Settings::dirOnExport);
+}
+
+void MainFrame::ExportMatrix()
+{
+    auto const shown = ShownMatrix();
+    if (shown.empty())
+    {
+        wxMessageBox("There is no matrix in the workspace.", "Zenqo Workbench", wxOK | wxICON_INFORMATION, this);
+        return;
+    }
+    std::string path;
+    RunAsked(AskExportMatrix(this, shown, path), PAGE_CONSOLE);
+    // Not before: the path may be a relative one.
+    m_preferences->FollowTo(Wide(path), &Settings::dirOnExport);
 }
 
 bool MainFrame::HasDatasets()
@@ -298,11 +210,31 @@ int MainFrame::ShownDataset() const
                : static_cast<int>(std::distance(m_workspace.datasets.begin(), shown));
 }
 
+std::string MainFrame::ShownMatrix() const
+{
+    auto const& matrices = m_workspace.matrices;
+    bool const isThere = matrices.count(m_matrixPage->Shown()) > 0;
+    return isThere ? m_matrixPage->Shown() : matrices.empty() ? std::string() : matrices.begin()->first;
+}
+
 void MainFrame::AskAndRun(Ask ask, Page page)
 {
     if (!HasDatasets())
         return;
-    auto const statement = ask(this, m_workspace.datasets, ShownDataset());
+    RunAsked(ask(this, m_workspace.datasets, ShownDataset()), page);
+}
+
+void MainFrame::AskOfModelAndRun(AskOfModel ask, Page page)
+{
+    auto const model = m_side->SelectedModel();
+    if (model.empty())
+        wxMessageBox("There is no model in the workspace.", "Zenqo Workbench", wxOK | wxICON_INFORMATION, this);
+    else
+        RunAsked(ask(this, m_workspace, model), page);
+}
+
+void MainFrame::RunAsked(Asked const& statement, Page page)
+{
     if (!statement)
         return;
     ShowPage(page);
@@ -311,16 +243,30 @@ void MainFrame::AskAndRun(Ask ask, Page page)
         ShowPage(PAGE_CONSOLE);
 }
 
-template <class Form>
-void MainFrame::FillForm()
+void MainFrame::EstimateRegression()
 {
     if (!HasDatasets())
         return;
-    Form form(this, &m_workspace.datasets);
+    std::string name;
+    int number = 1;
+    do
+        name = "reg" + std::to_string(number++);
+    while (!std::holds_alternative<std::monostate>(m_workspace.Find(name)));
+    RegressionForm form(this, &m_workspace.datasets, name);
     if (form.ShowModal() != wxID_OK)
         return;
     ShowPage(PAGE_CONSOLE);
-    Run(form.Script());
+    if (Run(form.Script()))
+        m_side->SelectModel(form.Name());
+}
+
+void MainFrame::PrintModel()
+{
+    auto const model = m_side->SelectedModel();
+    if (model.empty())
+        return;
+    ShowPage(PAGE_CONSOLE);
+    Run("print(" + model + ");");
 }
 
 void MainFrame::PrintShown()
@@ -338,22 +284,30 @@ void MainFrame::RunScript()
 {
     wxFileDialog dialog(this, "Run script", wxEmptyString, wxEmptyString, SCRIPT_FILES,
                         wxFD_OPEN | wxFD_FILE_MUST_EXIST);
-    if (dialog.ShowModal() == wxID_OK)
-        RunFile(Narrow(dialog.GetPath()));
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    m_preferences->FollowTo(dialog.GetPath(), &Settings::dirOnOpenScript);
+    RunFile(Narrow(dialog.GetPath()));
 }
 
-void MainFrame::SaveSession()
+bool MainFrame::SaveSession()
 {
     wxFileDialog dialog(this, "Save session as script", wxEmptyString, "session.zqs", SCRIPT_FILES,
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     if (dialog.ShowModal() != wxID_OK)
-        return;
+        return false;
+    m_preferences->FollowTo(dialog.GetPath(), &Settings::dirOnSaveScript);
     std::string text;
     for (std::string const& statement : m_runner->History())
         text += statement + "\n";
     wxFFile file;
     if (!file.Open(dialog.GetPath(), "wb") || !file.Write(text.data(), text.size()) || !file.Close())
+    {
         m_console->PrintOnConsoleError("The script can't be saved as " + Narrow(dialog.GetPath()) + ".");
+        return false;
+    }
+    m_savedStatements = m_runner->History().size();
+    return true;
 }
 
 void MainFrame::EditKey(int key)
@@ -401,16 +355,18 @@ void MainFrame::OnClose(wxCloseEvent& event)
         event.Veto();
         return;
     }
-    if (!IsSaved() && event.CanVeto())
+    bool const asks = event.CanVeto();
+    bool const scriptsLeft = m_runner->History().size() > m_savedStatements;
+    if ((asks && m_preferences->Get().promptScripts && scriptsLeft
+         && !AskToSave("The session is not saved as a script.\n\nSave it before the workbench closes?",
+                       [this] { return SaveSession(); }))
+        || (asks && m_preferences->Get().promptWorkspace && !IsSaved()
+            && !AskToSave("The workspace has changes that are not saved.\n\nSave them before the workbench "
+                          "closes?",
+                          [this] { return SaveWorkspace(); })))
     {
-        int const answer = wxMessageBox("The workspace has changes that are not saved.\n\nSave them before "
-                                        "the workbench closes?",
-                                        "Zenqo Workbench", wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
-        if (answer == wxCANCEL || (answer == wxYES && !SaveWorkspace()))
-        {
-            event.Veto();
-            return;
-        }
+        event.Veto();
+        return;
     }
     // One dot for each of the things that a large workspace takes time to let go of.
     for (auto release : {+[](Workspace& w) { w.models.clear(); }, +[](Workspace& w) { w.matrices.clear(); },
@@ -421,6 +377,13 @@ void MainFrame::OnClose(wxCloseEvent& event)
         m_console->PrintOnExit("");
     }
     Destroy();
+}
+
+bool MainFrame::AskToSave(wxString const& question, std::function<bool()> const& save)
+{
+    int const answer
+        = wxMessageBox(question, "Zenqo Workbench", wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
+    return answer == wxNO || (answer == wxYES && save());
 }
 
 void MainFrame::OnWorkspaceChanged(Workspace const& before)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <memory>
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -10,6 +11,7 @@
 #include "panes/MatrixGrid.h"
 #include "workbench/app/DataForms.h"
 #include "workbench/app/GridPage.h"
+#include "workbench/app/Preferences.h"
 #include "workbench/app/ScriptRunner.h"
 #include "workbench/engine/Workspace.h"
 
@@ -29,8 +31,9 @@ class SidePanes;
 class MainFrame : public wxFrame
 {
 public:
-    /// `samples` is the folder of the sample data.
-    explicit MainFrame(std::string const& samples);
+    /// `samples` is the folder of the sample data. The user's settings are kept in `settingsFile`, and
+    /// nowhere if that is empty.
+    explicit MainFrame(std::string const& samples, std::string const& settingsFile = {});
     ~MainFrame() override;
 
     /// Echoes and runs a script text.
@@ -41,6 +44,9 @@ public:
 
     /// Runs a script file.
     bool RunFile(std::string const& path);
+
+    /// Shows the quick-start page, unless the user wants it no more.
+    void GreetUser();
 
 private:
     enum Page
@@ -56,8 +62,10 @@ private:
     void MakeEditMenu(wxMenuBar& bar);
     void MakeDataMenu(wxMenuBar& bar);
     void MakeModelMenu(wxMenuBar& bar);
+    void MakeProgramsMenu(wxMenuBar& bar);
     void MakeScriptMenu(wxMenuBar& bar);
     void MakeViewMenu(wxMenuBar& bar);
+    void MakeHelpMenu(wxMenuBar& bar);
     void MakePages(wxWindow* parent, std::string const& samples);
 
     /// Adds an entry that is enabled while no command runs.
@@ -67,16 +75,31 @@ private:
     bool SaveWorkspace();
     bool SaveWorkspaceAs();
     void ImportData();
+    void ExportData();
+    void ExportMatrix();
     using Ask = Asked (*)(wxWindow* parent, DatasetMap& datasets, int shown);
 
     /// Lets the user compose a statement in a data dialog, and runs it with `page` on view.
     void AskAndRun(Ask ask, Page page);
+    /// The same for a dialog about models.
+    using AskOfModel = Asked (*)(wxWindow* parent, Workspace& workspace, std::string const& shown);
+    void AskOfModelAndRun(AskOfModel ask, Page page);
+
+    void RunAsked(Asked const& statement, Page page);
+    void EstimateRegression();
+    void PrintModel();
     bool HasDatasets();
     int ShownDataset() const;
+
+    /// The name of the matrix in the grid, else of the first one; empty if there is none.
+    std::string ShownMatrix() const;
     void PrintShown();
     template <class Form> void FillForm();
     void RunScript();
-    void SaveSession();
+    bool SaveSession();
+
+    /// Asks whether to save what has changed, by `save`. False if the window is to stay.
+    bool AskToSave(wxString const& question, std::function<bool()> const& save);
     void EditKey(int key);
 
     void OnCharHook(wxKeyEvent& event);
@@ -102,5 +125,7 @@ private:
     std::optional<GridPage<DataGrid, Dataset>> m_dataPage;
     std::optional<GridPage<MatrixGrid, Eigen::MatrixXd>> m_matrixPage;
     std::optional<ScriptRunner> m_runner;
+    std::optional<Preferences> m_preferences;
+    std::size_t m_savedStatements = 0; ///< Of the session, how many are saved as a script.
 };
 } // namespace workbench

@@ -1,11 +1,13 @@
 #include "workbench/app/SidePanes.h"
 
+#include <wx/listbox.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
 #include "panes/DatasetsPane.h"
 #include "panes/MatricesPane.h"
 #include "panes/ModelsPane.h"
+#include "workbench/app/CallText.h"
 #include "workbench/engine/Workspace.h"
 
 namespace workbench
@@ -34,6 +36,24 @@ void SidePanes::Update(Workspace& workspace)
 {
     m_datasets->Update(&workspace.datasets);
     m_matrices->Update(&workspace.matrices);
+    auto const selected = SelectedModel();
     m_models->Update(&workspace.models);
+    SelectModel(selected);
+}
+
+std::string SidePanes::SelectedModel() const
+{
+    wxListBox const& list = *m_models->GetList();
+    int const selected = list.GetSelection();
+    if (selected != wxNOT_FOUND)
+        return Narrow(list.GetString(static_cast<unsigned>(selected)));
+    return list.IsEmpty() ? std::string() : Narrow(list.GetString(0));
+}
+
+void SidePanes::SelectModel(std::string const& name)
+{
+    int const index = m_models->GetList()->FindString(Wide(name), true);
+    if (index != wxNOT_FOUND)
+        m_models->GetList()->SetSelection(index);
 }
 } // namespace workbench

@@ -18,6 +18,7 @@
 #include "engine/Globals.h"
 #include "workbench/app/Batch.h"
 #include "workbench/app/MainFrame.h"
+#include "workbench/engine/Settings.h"
 
 namespace
 {
@@ -43,6 +44,14 @@ std::string InstallationRoot()
     return Narrow(root.GetPath());
 }
 
+/// Where the desktop keeps what a user has set: XDG_CONFIG_HOME, or .config in the user's folder.
+std::string SettingsFile()
+{
+    auto& paths = wxStandardPaths::Get();
+    paths.SetFileLayout(wxStandardPaths::FileLayout_XDG);
+    return Narrow(paths.GetUserConfigDir()) + "/zenqo-workbench/settings.json";
+}
+
 class WorkbenchApp : public wxApp
 {
 public:
@@ -57,7 +66,17 @@ public:
         return true;
     }
 
-    int OnRun() override { return m_batch.empty() ? wxApp::OnRun() : workbench::RunBatch(m_batch); }
+    int OnRun() override
+    {
+        if (m_batch.empty())
+            return wxApp::OnRun();
+        // The same outside programs as in the window.
+        std::string warning;
+        workbench::ApplyPrograms(workbench::LoadSettings(SettingsFile(), warning));
+        if (!warning.empty())
+            std::fprintf(stderr, "zenqo-workbench: %s\n", warning.c_str());
+        return workbench::RunBatch(m_batch);
+    }
 
     void OnInitCmdLine(wxCmdLineParser& parser) override
     {
@@ -83,7 +102,7 @@ private:
     void ShowWindow()
     {
         auto* const frame
-            = new workbench::MainFrame(Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM + "/Samples");
+            = new workbench::MainFrame(Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM + "/Samples", SettingsFile());
         frame->Show();
         // Files are opened once the window is on the screen, where the user can see it happen.
         frame->CallAfter(
@@ -93,6 +112,8 @@ private:
                     frame->OpenFile(m_workspaceFile);
                 if (!m_script.empty())
                     frame->RunFile(m_script);
+                if (m_workspaceFile.empty() && m_script.empty())
+                    frame->GreetUser();
             });
     }
 

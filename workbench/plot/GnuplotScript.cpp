@@ -202,6 +202,13 @@ Picture FilePicture(Figure const& figure, PictureFormat format)
     return {format, units(std::max(720, 320 * columns)), units(std::max(480, 220 * rows)), unit};
 }
 
+Picture SizedPicture(PictureFormat format, int width, int height)
+{
+    double const unit = format == PictureFormat::Pdf ? 72.0 / 90.0 : 1.0;
+    auto const units = [unit](int pixels) { return std::max(1, static_cast<int>(std::lround(unit * pixels))); };
+    return {format, units(width), units(height), unit};
+}
+
 std::string GnuplotScript(Figure const& figure, Picture const& picture)
 {
     int const columns = figure.columns;

@@ -32,6 +32,9 @@ PictureFormat FormatOf(std::string const& path);
 /// page. A figure of many panels is larger.
 Picture FilePicture(Figure const& figure, PictureFormat format);
 
+/// A picture of so many pixels on a screen of 90 dots per inch, and as large on paper.
+Picture SizedPicture(PictureFormat format, int width, int height);
+
 /// The commands that make gnuplot write `figure` on its standard output.
 std::string GnuplotScript(Figure const& figure, Picture const& picture);
 } // namespace workbench
