@@ -25,8 +25,9 @@ by way of the NIST Statistical Reference Datasets)</li>
 <li>Drop a <tt>.csv</tt> or <tt>.txt</tt> file on the <b>Datasets</b> tree at the left, or use
 <i>Data &gt; Import</i>.</li>
 <li>Drop a workspace file (<tt>.zws</tt>) on the <b>Console</b>, or use <i>File &gt; Open workspace</i>.</li>
-<li>The <b>Data</b> menu makes variables, sorts, summarizes and plots; the <b>Model</b> menu chooses the
-variables, lags and prior of an equation.</li>
+<li>The <b>Data</b> menu makes variables, sorts, summarizes and plots.</li>
+<li>The <b>Model</b> menu estimates a linear regression, and then tests, compares, forecasts and predicts with
+it.</li>
 <li>Select a table on the console and press <b>Ctrl+T</b>: it is on the clipboard as TeX.</li>
 </ul>
 </body></html>)";
