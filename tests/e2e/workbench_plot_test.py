@@ -38,11 +38,10 @@ class Figures(workbench.TestCase):
         picture = self.folder / "history.svg"
         workbench.press_until(lambda: desktop.windows("Export Figure"), "ctrl+e")
         dialog = bench.box("Export Figure", "export-figure")
-        # From the button back over Cancel... to the path, which is the first field.
         dialog.click(120, 40)
         desktop.key("ctrl+a")
         desktop.type_text(str(picture))
-        workbench.press_until(lambda: not dialog.exists(), "Return")
+        workbench.press_until(lambda: not dialog.exists(), "alt+e")
         desktop.wait_until(picture.exists, picture)
         root = xml.etree.ElementTree.parse(picture).getroot()
         texts = [element.text for element in root.iter("{http://www.w3.org/2000/svg}text")]

@@ -279,8 +279,8 @@ TEST_CASE("a name that is not there is told with what is")
     CHECK(desk.Failure("clear(x);")
           == "Line 1, column 7: there is nothing called \"x\" in the workspace; the names are: prices, "
              "wages");
-    CHECK(desk.Failure("export(wages, \"/tmp/x\", \",\");")
-          == "Line 1, column 8: expected the name of a dataset, but \"wages\" is none");
+    CHECK(desk.Failure("sort(wages, \"educ\");")
+          == "Line 1, column 6: expected the name of a dataset, but \"wages\" is none");
 }
 
 TEST_CASE("a statement that fails changes nothing, and ends the script")
