@@ -96,6 +96,10 @@ class Program:
         wait_until(lambda: text in self.output(),
                    lambda: f"{text!r} in the output:\n{self.output()}{self.errors()}", patience)
 
+    def threads(self):
+        """The number of the program's threads."""
+        return len(os.listdir(f"/proc/{self.process.pid}/task"))
+
     def wait_end(self, patience=PATIENCE):
         """Waits until it has ended by itself; gives the exit status."""
         wait_until(lambda: not self.running(), f"the end of {self.process.args[0]}", patience)

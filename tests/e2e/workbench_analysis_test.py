@@ -89,6 +89,22 @@ class Analysis(workbench.TestCase):
         self.assertIn("\\begin{tabular}", bench.copied("ctrl+2", "ctrl+a", "ctrl+t"))
         self.finish(bench)
 
+    def test_a_long_estimation_is_stopped_by_the_key_while_the_console_has_the_focus(self):
+        bench = self.with_models()
+        bench.window.click(*Bench.PAGE)
+        script = self.file("long.zqs", 'long = regress(line, "y", "x", "draws"=20000, "thin"=100000, "chains"=2);')
+        threads = bench.program.threads()
+        desktop.key("ctrl+r")
+        bench.choose_file("Run script", script)
+        # Each chain has a thread of its own.
+        desktop.wait_until(lambda: bench.program.threads() >= threads + 2, "the threads of the chains",
+                           workbench.PATIENCE)
+        bench.window.photograph("regression-runs")
+        desktop.key("ctrl+period")
+        console = bench.wait_console("interrupted; the statement changed nothing")
+        self.assertEqual(console.count("ERROR: "), 1)
+        self.finish(bench)
+
     def test_what_cannot_be_estimated_is_one_error(self):
         bench = self.with_models()
         script = self.file("bad.zqs", 'bad = regress(line, "x", "x", "constant"=true);')

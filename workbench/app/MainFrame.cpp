@@ -337,9 +337,13 @@ void MainFrame::EditKey(int key)
 
 void MainFrame::OnCharHook(wxKeyEvent& event)
 {
-    // The console keeps every key with more than one modifier from the menu bar.
+    // The console keeps every key with more than one modifier from the menu bar, and to GTK's text
+    // controls this one with the point means that a picture of a face is to be inserted.
     bool const saveAs = event.GetModifiers() == (wxMOD_CONTROL | wxMOD_SHIFT) && event.GetKeyCode() == 'S';
-    if (saveAs && !m_runner->IsBusy())
+    bool const stop = event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == '.';
+    if (stop && m_runner->IsBusy())
+        m_runner->Stop();
+    else if (saveAs && !m_runner->IsBusy())
         SaveWorkspaceAs();
     else
         event.Skip();
