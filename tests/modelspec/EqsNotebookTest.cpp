@@ -339,20 +339,14 @@ TEST_CASE("equations notebook: hostile names stay what they are")
 TEST_CASE("equations notebook: the plus tab shows its icon, and a missing one is passed over")
 {
     Stage stage;
-    auto const iconOf = [&](std::string const& content)
-    {
-        InstalledIcon const installed("i_plus.png", content);
-        auto* const notebook = MakeNotebook(stage);
-        wxBitmap const icon = notebook->GetPageBitmap(1);
-        notebook->Destroy();
-        return icon.IsOk() ? icon.GetSize() : wxSize(0, 0);
-    };
-    std::string const icon = IconInSource("i_plus.png");
-    REQUIRE(icon.size() > 50);
-    CHECK(iconOf(icon) == wxSize(16, 16));
-    CHECK(iconOf("") == wxSize(0, 0));
-    CHECK(iconOf("no picture at all") == wxSize(0, 0));
-    CHECK(iconOf(icon.substr(0, 60)) == wxSize(0, 0));
+    CheckIcon("i_plus.png", wxSize(16, 16),
+              [&]
+              {
+                  auto* const notebook = MakeNotebook(stage);
+                  wxBitmap const icon = notebook->GetPageBitmap(1);
+                  notebook->Destroy();
+                  return icon;
+              });
 
     // Nowhere an installation: no box, no line in the log, and the tab works.
     auto const before = Zenqo_SYSTEM_NAMESPACE::ZENQO_SYSTEM;

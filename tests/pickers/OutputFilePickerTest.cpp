@@ -3,14 +3,13 @@
 #include <catch2/catch.hpp>
 
 #include <wx/button.h>
-#include <wx/filedlg.h>
 #include <wx/filepicker.h>
 #include <wx/radiobut.h>
 
 #include "support/AsciiLocale.h"
+#include "support/FileChooser.h"
 #include "support/Find.h"
 #include "support/Layout.h"
-#include "support/ModalScript.h"
 #include "support/Stage.h"
 #include "support/TabOrder.h"
 
@@ -106,19 +105,7 @@ TEST_CASE("output file picker: by the keys alone")
     CHECK(order[1] == Find<wxTextCtrl>(picker));
     CHECK(order[2] == Find<wxButton>(picker));
 
-    ModalScript script;
-    script.Then(
-        [](wxDialog* shown)
-        {
-            auto* const dialog = dynamic_cast<wxFileDialog*>(shown);
-            CHECK(dialog->GetMessage() == "Output File:");
-            CHECK(dialog->GetWildcard() == "All files |*.*;*");
-            CHECK(dialog->HasFlag(wxFD_SAVE));
-            CHECK(dialog->HasFlag(wxFD_OVERWRITE_PROMPT));
-            return wxID_CANCEL;
-        });
-    Press(WXK_SPACE);
-    CHECK(script.Shown().size() == 1);
+    CheckChooser(order[2], "Output File:", "All files |*.*;*", {wxFD_SAVE, wxFD_OVERWRITE_PROMPT});
     CHECK(picker->GetFilename().empty());
 
     controls.custom->SetFocus();

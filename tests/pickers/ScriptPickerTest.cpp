@@ -3,14 +3,13 @@
 #include <catch2/catch.hpp>
 
 #include <wx/button.h>
-#include <wx/filedlg.h>
 #include <wx/filepicker.h>
 #include <wx/stattext.h>
 
 #include "support/AsciiLocale.h"
+#include "support/FileChooser.h"
 #include "support/Find.h"
 #include "support/Layout.h"
-#include "support/ModalScript.h"
 #include "support/Stage.h"
 #include "support/TabOrder.h"
 
@@ -84,18 +83,6 @@ TEST_CASE("script picker: the button asks for an existing file of any kind")
     REQUIRE(order.size() == 2);
     CHECK(order[1] == Find<wxButton>(picker));
 
-    ModalScript script;
-    script.Then(
-        [](wxDialog* shown)
-        {
-            auto* const dialog = dynamic_cast<wxFileDialog*>(shown);
-            CHECK(dialog->GetMessage() == "Select a file");
-            CHECK(dialog->GetWildcard() == "*.*");
-            CHECK(dialog->HasFlag(wxFD_OPEN));
-            CHECK(dialog->HasFlag(wxFD_FILE_MUST_EXIST));
-            return wxID_CANCEL;
-        });
-    Press(WXK_SPACE);
-    CHECK(script.Shown().size() == 1);
+    CheckChooser(order[1], "Select a file", "*.*", {wxFD_OPEN, wxFD_FILE_MUST_EXIST});
     CHECK(picker->GetText().empty());
 }

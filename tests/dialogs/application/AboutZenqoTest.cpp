@@ -7,7 +7,6 @@
 #include "dialogs/application/DialogChecks.h"
 #include "support/InstalledIcon.h"
 #include "support/Layout.h"
-#include "support/RunDialog.h"
 
 namespace
 {
@@ -27,14 +26,8 @@ TEST_CASE("about: layout")
 {
     Stage stage;
     AboutZenqo const dialog(stage.Frame());
-    CHECK(dialog.GetTitle() == "About Zenqo");
-    CHECK(dialog.GetId() < 0);
-    CHECK(StyleOf(dialog) == 0x20001818);
+    auto* const sizer = CheckFrame(dialog, "About Zenqo", 0x20001818, 2);
     CheckCentred(dialog);
-
-    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
-    CHECK(sizer->GetOrientation() == wxVERTICAL);
-    REQUIRE(sizer->GetItemCount() == 2);
     CHECK(PlacementOf(Item(sizer, 0)) == Placement{0, wxEXPAND | wxALL, 5});
     auto* const columns = Item(sizer, 0)->GetSizer();
     CHECK(Shape(columns) == "1 row, 3 columns, column 1 grows");
@@ -85,22 +78,12 @@ TEST_CASE("about: the texts")
 TEST_CASE("about: the logo, and a missing or damaged one is passed over")
 {
     Stage stage;
-    auto const logoOf = [&](std::string const& content)
-    {
-        InstalledIcon const installed("Logo192.png", content);
-        AboutZenqo const dialog(stage.Frame());
-        wxBitmap const logo = Find<wxStaticBitmap>(&dialog)->GetBitmap();
-        return logo.IsOk() ? logo.GetSize() : wxSize(0, 0);
-    };
-    std::string const logo = IconInSource("Logo192.png");
-    REQUIRE(logo.size() > 1000);
-    CHECK(logoOf(logo) == wxSize(192, 192));
-    CHECK(logoOf("") == wxSize(0, 0));
-    CHECK(logoOf("no picture at all") == wxSize(0, 0));
-    CHECK(logoOf(logo.substr(0, 1000)) == wxSize(0, 0));
-    // Under another name there is none.
-    InstalledIcon const other("i_plus.png", logo);
-    CHECK(!Find<wxStaticBitmap>(std::make_unique<AboutZenqo>(stage.Frame()).get())->GetBitmap().IsOk());
+    CheckIcon("Logo192.png", wxSize(192, 192),
+              [&]
+              {
+                  AboutZenqo const dialog(stage.Frame());
+                  return Find<wxStaticBitmap>(&dialog)->GetBitmap();
+              });
 }
 
 TEST_CASE("about: shown whole, and however it is closed, it answers OK")

@@ -7,9 +7,20 @@
 #include <wx/sizer.h>
 
 #include "support/Find.h"
+#include "support/RunDialog.h"
 
-/// The window style that a dialog was made with.
-inline long StyleOf(wxDialog const& dialog) { return dialog.GetWindowStyle() & ~wxTAB_TRAVERSAL; }
+/// Checks the dialog itself and gives its sizer, which is vertical and has `items`.
+inline wxSizer* CheckFrame(wxDialog const& dialog, wxString const& title, long style, std::size_t items)
+{
+    CHECK(dialog.GetTitle() == title);
+    CHECK(dialog.GetId() < 0);
+    CHECK((dialog.GetWindowStyle() & ~wxTAB_TRAVERSAL) == style);
+    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
+    REQUIRE(sizer);
+    CHECK(sizer->GetOrientation() == wxVERTICAL);
+    REQUIRE(sizer->GetItemCount() == items);
+    return sizer;
+}
 
 /// The vertical sizer of a box with `label`, whose item is `item` and placed at `placement`.
 inline wxStaticBoxSizer* CheckBox(wxSizerItem* item, wxString const& label, Placement const& placement)
@@ -58,4 +69,11 @@ inline void CheckCentred(wxDialog const& dialog)
     wxPoint const off = middle(dialog.GetRect()) - middle(dialog.GetParent()->GetRect());
     CHECK(std::abs(off.x) <= 30);
     CHECK(std::abs(off.y) <= 30);
+}
+
+/// Checks that Escape and "&Cancel" cancel, and nothing else.
+inline void CheckCancels(wxDialog& dialog)
+{
+    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
 }

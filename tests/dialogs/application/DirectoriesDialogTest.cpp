@@ -1,7 +1,5 @@
 #include "dialogs/application/DirectoriesDialog.h"
 
-#include <wx/filedlg.h>
-#include <wx/filename.h>
 #include <wx/filepicker.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -9,8 +7,8 @@
 #include "dialogs/application/DialogChecks.h"
 #include "engine/Globals.h"
 #include "support/AsciiLocale.h"
+#include "support/FileChooser.h"
 #include "support/Layout.h"
-#include "support/RunDialog.h"
 
 namespace
 {
@@ -80,14 +78,8 @@ TEST_CASE("paths to programs: layout")
 {
     Stage stage;
     DirectoriesDialog dialog(stage.Frame());
-    CHECK(dialog.GetTitle() == "Paths to Binaries of External Programs");
-    CHECK(dialog.GetId() < 0);
-    CHECK(StyleOf(dialog) == 0x2000181C);
+    auto* const sizer = CheckFrame(dialog, "Paths to Binaries of External Programs", 0x2000181C, 2);
     CheckCentred(dialog);
-
-    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
-    CHECK(sizer->GetOrientation() == wxVERTICAL);
-    REQUIRE(sizer->GetItemCount() == 2);
     auto* const box = CheckBox(Item(sizer, 0), "Paths to binaries of external programs",
                                {0, wxEXPAND | wxALL, 5});
     CheckButtons(dialog, Item(sizer, 1), "&OK", "&Cancel", AtTheEnd());
@@ -226,20 +218,8 @@ TEST_CASE("paths to programs: the buttons ask for an existing file of any kind")
     for (std::size_t i = 0; i < 7; ++i)
     {
         CAPTURE(i);
-        ModalScript script;
-        script.Then(
-            [i](wxDialog* shown)
-            {
-                auto* const chooser = dynamic_cast<wxFileDialog*>(shown);
-                CHECK(chooser->GetMessage() == wxString::FromUTF8(PROGRAMS[i].message));
-                CHECK(chooser->GetWildcard() == "All files |*.*;*");
-                CHECK(chooser->HasFlag(wxFD_OPEN));
-                CHECK(chooser->HasFlag(wxFD_FILE_MUST_EXIST));
-                return wxID_CANCEL;
-            });
-        Find<wxButton>(pickers[i])->SetFocus();
-        Press(WXK_SPACE);
-        CHECK(PumpUntil([&] { return !script.Shown().empty(); }));
+        CheckChooser(Find<wxButton>(pickers[i]), wxString::FromUTF8(PROGRAMS[i].message), "All files |*.*;*",
+                     {wxFD_OPEN, wxFD_FILE_MUST_EXIST});
     }
     CHECK(Given(dialog) == std::vector<std::string>(7, UNSET));
 }
@@ -248,6 +228,5 @@ TEST_CASE("paths to programs: Cancel and Escape cancel")
 {
     Stage stage;
     DirectoriesDialog dialog(stage.Frame());
-    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
+    CheckCancels(dialog);
 }

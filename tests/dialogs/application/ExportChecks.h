@@ -1,25 +1,17 @@
 #pragma once
 
 #include <wx/button.h>
-#include <wx/filedlg.h>
 #include <wx/filepicker.h>
 
 #include "dialogs/application/DialogChecks.h"
-#include "support/ModalScript.h"
-#include "support/RunDialog.h"
+#include "support/FileChooser.h"
 
 /// Checks the frame of a dialog that exports, which has `items` in its sizer: title, style, the box of
 /// the file on top, the buttons at the end.
 inline void CheckExportFrame(wxDialog const& dialog, wxString const& title, std::size_t items)
 {
-    CHECK(dialog.GetTitle() == title);
-    CHECK(dialog.GetId() < 0);
-    CHECK(StyleOf(dialog) == 0x2000190C);
+    auto* const sizer = CheckFrame(dialog, title, 0x2000190C, items);
     CheckCentred(dialog);
-    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
-    CHECK(sizer->GetOrientation() == wxVERTICAL);
-    REQUIRE(sizer->GetItemCount() == items);
-
     auto* const box = CheckBox(Item(sizer, 0), "File name and location", {0, wxEXPAND | wxALL, 5});
     REQUIRE(box->GetItemCount() == 1);
     CHECK(PlacementOf(Item(box, 0)) == Placement{0, wxEXPAND | wxALL, 5});
@@ -32,32 +24,13 @@ inline void CheckExportFrame(wxDialog const& dialog, wxString const& title, std:
 }
 
 /// Checks what the dialog's button asks for: the name of a file to write.
-inline void CheckChooser(wxDialog& dialog)
+inline void CheckSaveChooser(wxDialog& dialog)
 {
     dialog.Show();
     PumpUntil([&] { return dialog.IsActive(); });
-    ModalScript script;
-    script.Then(
-        [](wxDialog* shown)
-        {
-            auto* const chooser = dynamic_cast<wxFileDialog*>(shown);
-            CHECK(chooser->GetMessage() == "Select a file");
-            CHECK(chooser->GetWildcard() == "*.*");
-            CHECK(chooser->HasFlag(wxFD_SAVE));
-            CHECK(chooser->HasFlag(wxFD_OVERWRITE_PROMPT));
-            return wxID_CANCEL;
-        });
-    Find<wxButton>(Find<wxFilePickerCtrl>(&dialog))->SetFocus();
-    Press(WXK_SPACE);
-    CHECK(PumpUntil([&] { return !script.Shown().empty(); }));
+    CheckChooser(Find<wxButton>(Find<wxFilePickerCtrl>(&dialog)), "Select a file", "*.*",
+                 {wxFD_SAVE, wxFD_OVERWRITE_PROMPT});
     dialog.Hide();
-}
-
-/// Checks that Escape and "&Cancel" cancel, and nothing else.
-inline void CheckCancels(wxDialog& dialog)
-{
-    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
 }
 
 /// Paths that a host or user may come up with.

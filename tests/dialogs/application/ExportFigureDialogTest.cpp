@@ -164,7 +164,7 @@ TEST_CASE("export figure: the button asks where to save")
 {
     Stage stage;
     ExportFigureDialog dialog(stage.Frame(), false, "x.png");
-    CheckChooser(dialog);
+    CheckSaveChooser(dialog);
     CHECK(dialog.GetFileName() == "x.png");
 }
 

@@ -111,7 +111,7 @@ TEST_CASE("export matrix: the button asks where to save")
 {
     Stage stage;
     ExportMatrixDialog dialog(stage.Frame(), "Export Matrix", false, "W");
-    CheckChooser(dialog);
+    CheckSaveChooser(dialog);
     CHECK(dialog.GetFileName() == "./W.csv");
 }
 

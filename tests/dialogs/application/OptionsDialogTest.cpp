@@ -8,7 +8,6 @@
 
 #include "dialogs/application/DialogChecks.h"
 #include "support/Layout.h"
-#include "support/RunDialog.h"
 #include "support/TabOrder.h"
 
 namespace
@@ -43,14 +42,8 @@ TEST_CASE("preferences: layout")
 {
     Stage stage;
     auto const dialog = DialogFor(stage.Frame(), {});
-    CHECK(dialog->GetTitle() == "Preferences");
-    CHECK(dialog->GetId() < 0);
-    CHECK(StyleOf(*dialog) == 0x2000181C);
+    auto* const sizer = CheckFrame(*dialog, "Preferences", 0x2000181C, 2);
     CheckCentred(*dialog);
-
-    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog->GetSizer());
-    CHECK(sizer->GetOrientation() == wxVERTICAL);
-    REQUIRE(sizer->GetItemCount() == 2);
     auto* const box = CheckBox(Item(sizer, 0), "Working directory && prompts on exit",
                                {0, wxEXPAND | wxALL, 5});
     CheckButtons(*dialog, Item(sizer, 1), "&OK", "&Cancel", AtTheEnd());
@@ -160,6 +153,5 @@ TEST_CASE("preferences: Cancel and Escape cancel")
 {
     Stage stage;
     auto const dialog = DialogFor(stage.Frame(), {});
-    CHECK(RunDialog(*dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(RunDialog(*dialog, [&] { Click(dialog->FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
+    CheckCancels(*dialog);
 }

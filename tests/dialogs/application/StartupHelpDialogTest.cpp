@@ -10,7 +10,6 @@
 #include <wx/utils.h>
 
 #include "dialogs/application/DialogChecks.h"
-#include "support/RunDialog.h"
 #include "support/TabOrder.h"
 
 namespace
@@ -61,12 +60,7 @@ TEST_CASE("quick start: layout")
 {
     Stage stage;
     StartupHelpDialog const dialog(stage.Frame());
-    CHECK(dialog.GetTitle() == "Quick Start");
-    CHECK(dialog.GetId() < 0);
-    CHECK(StyleOf(dialog) == 0x20001818);
-    auto* const sizer = dynamic_cast<wxBoxSizer*>(dialog.GetSizer());
-    CHECK(sizer->GetOrientation() == wxVERTICAL);
-    REQUIRE(sizer->GetItemCount() == 4);
+    auto* const sizer = CheckFrame(dialog, "Quick Start", 0x20001818, 4);
 
     auto* const html = dynamic_cast<wxHtmlWindow*>(Item(sizer, 0)->GetWindow());
     REQUIRE(html);
