@@ -8,6 +8,7 @@
 #include "common/SizerItem.h"
 #include "common/SystemIcon.h"
 #include "common/TextLabel.h"
+#include "common/TypewriterFont.h"
 
 namespace
 {
@@ -50,8 +51,7 @@ AboutZenqo::AboutZenqo(wxWindow* parent)
     AddText(this, texts, "Zenqo Statistical Workbench\n",
             {wxFontInfo(10).Italic(), wxALIGN_CENTRE_HORIZONTAL, wxEXPAND | wxALIGN_CENTER | wxBOTTOM, 25});
     AddText(this, texts, wxString::FromUTF8(CREDITS),
-            {wxFontInfo(10).Family(wxFONTFAMILY_MODERN).FaceName("Courier 10 Pitch"), wxALIGN_LEFT,
-             wxEXPAND | wxALL, 5});
+            {zenqo::TypewriterFont(10), wxALIGN_LEFT, wxEXPAND | wxALL, 5});
 
     zenqo::AddCloseRow(this, sizer, wxID_OK);
     zenqo::FitDialog(this, sizer);

@@ -43,6 +43,14 @@ inline int RunDialog(wxDialog& dialog, std::function<void()> const& actions,
     return dialog.ShowModal();
 }
 
+/// All the ways out that cancel.
+inline void CheckWaysOut(wxDialog& dialog)
+{
+    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { dialog.Close(); }) == wxID_CANCEL);
+    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
+}
+
 /// A warning as the library shows it.
 inline void CheckWarning(ShownDialog const& warning, wxString const& text, wxWindow const* parent)
 {

@@ -21,7 +21,6 @@ namespace action_checks
 {
 using dialog_checks::Accepts;
 using dialog_checks::CheckBox;
-using dialog_checks::CheckWaysOut;
 using dialog_checks::Growing;
 using Arguments = std::vector<std::string>;
 using Items = std::vector<wxSizerItem*>;

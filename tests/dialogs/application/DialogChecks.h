@@ -70,10 +70,3 @@ inline void CheckCentred(wxDialog const& dialog)
     CHECK(std::abs(off.x) <= 30);
     CHECK(std::abs(off.y) <= 30);
 }
-
-/// Checks that Escape and "&Cancel" cancel, and nothing else.
-inline void CheckCancels(wxDialog& dialog)
-{
-    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
-}

@@ -224,9 +224,9 @@ TEST_CASE("paths to programs: the buttons ask for an existing file of any kind")
     CHECK(Given(dialog) == std::vector<std::string>(7, UNSET));
 }
 
-TEST_CASE("paths to programs: Cancel and Escape cancel")
+TEST_CASE("paths to programs: all the ways out that cancel")
 {
     Stage stage;
     DirectoriesDialog dialog(stage.Frame());
-    CheckCancels(dialog);
+    CheckWaysOut(dialog);
 }

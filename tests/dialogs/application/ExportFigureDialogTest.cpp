@@ -168,9 +168,9 @@ TEST_CASE("export figure: the button asks where to save")
     CHECK(dialog.GetFileName() == "x.png");
 }
 
-TEST_CASE("export figure: Cancel and Escape cancel")
+TEST_CASE("export figure: all the ways out that cancel")
 {
     Stage stage;
     ExportFigureDialog dialog(stage.Frame(), false, "x.png");
-    CheckCancels(dialog);
+    CheckWaysOut(dialog);
 }

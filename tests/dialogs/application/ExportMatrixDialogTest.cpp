@@ -115,9 +115,9 @@ TEST_CASE("export matrix: the button asks where to save")
     CHECK(dialog.GetFileName() == "./W.csv");
 }
 
-TEST_CASE("export matrix: Cancel and Escape cancel")
+TEST_CASE("export matrix: all the ways out that cancel")
 {
     Stage stage;
     ExportMatrixDialog dialog(stage.Frame(), "Export Matrix", false, "W");
-    CheckCancels(dialog);
+    CheckWaysOut(dialog);
 }

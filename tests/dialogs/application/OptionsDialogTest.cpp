@@ -149,9 +149,9 @@ TEST_CASE("preferences: by the keys alone, in the order on the screen")
     CHECK(SettingsOf(*dialog) == Settings{false, false, false, false, false, false, true, false});
 }
 
-TEST_CASE("preferences: Cancel and Escape cancel")
+TEST_CASE("preferences: all the ways out that cancel")
 {
     Stage stage;
     auto const dialog = DialogFor(stage.Frame(), {});
-    CheckCancels(*dialog);
+    CheckWaysOut(*dialog);
 }

@@ -89,14 +89,6 @@ inline void CheckRunAndCancel(wxSizerItem const* item, wxDialog const& dialog,
     CHECK(dialog.FindWindow(wxID_CANCEL)->GetLabel() == "&Cancel");
 }
 
-/// All the ways out that cancel.
-inline void CheckWaysOut(wxDialog& dialog)
-{
-    CHECK(RunDialog(dialog, [] { Press(WXK_ESCAPE); }) == wxID_CANCEL);
-    CHECK(RunDialog(dialog, [&] { dialog.Close(); }) == wxID_CANCEL);
-    CHECK(RunDialog(dialog, [&] { Click(dialog.FindWindow(wxID_CANCEL)); }) == wxID_CANCEL);
-}
-
 /// Where there is nothing to choose from, the button that moves does nothing and "Run" is refused.
 inline void CheckNothingToChoose(wxDialog& dialog, wxButton* move, wxString const& warning)
 {
