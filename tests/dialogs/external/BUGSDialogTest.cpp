@@ -30,6 +30,13 @@ TEST_CASE("BUGS dialog: pages at the left, settings at the right")
     CheckFilled<StorePicker>(CheckSettings(columns, 2, "Store Model's Results"));
 }
 
+TEST_CASE("BUGS dialog: the Tab key goes from the page to the settings and the buttons")
+{
+    Tabs<BUGSDialog, GibbsPicker>(
+        [](BUGSDialog& dialog) { return std::vector<wxWindow*>{TextOf(&dialog, 0), TextOf(&dialog, 1), TextOf(&dialog, 2)}; },
+        false);
+}
+
 TEST_CASE("BUGS dialog: what it asks and what it gives")
 {
     CheckAll<BUGSDialog, GibbsPicker>(

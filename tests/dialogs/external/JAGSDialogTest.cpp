@@ -27,6 +27,13 @@ TEST_CASE("JAGS dialog: pages at the left, settings at the right")
     CheckFilled<StorePicker>(CheckSettings(columns, 2, "Store Model's Results"));
 }
 
+TEST_CASE("JAGS dialog: the Tab key goes from the page to the settings and the buttons")
+{
+    Tabs<JAGSDialog, GibbsPicker>(
+        [](JAGSDialog& dialog) { return std::vector<wxWindow*>{TextOf(&dialog, 0), TextOf(&dialog, 1)}; },
+        false);
+}
+
 TEST_CASE("JAGS dialog: what it asks and what it gives")
 {
     CheckAll<JAGSDialog, GibbsPicker>(

@@ -290,6 +290,35 @@ void ByHand(std::function<void(Dialog&)> const& onFirstPage)
     CHECK(dialog.GetModelName() == "NoStore");
 }
 
+/// The Tab key goes from the page, whose controls are `onPage`, to the settings and the buttons. The tabs
+/// of the notebook, and a drop-down list, have the keyboard without the toolkit's knowing.
+template <class Dialog, class Sampler>
+void Tabs(std::function<std::vector<wxWindow*>(Dialog&)> const& onPage, bool hasMethod)
+{
+    Fixture<Dialog, Sampler> fixture;
+    auto& dialog = fixture.dialog;
+    fixture.store->SetValue(true);
+    fixture.name->Enable();
+    auto controls = onPage(dialog);
+    controls.push_back(Find<wxTextCtrl>(ScriptOf(&dialog)));
+    controls.push_back(Find<wxButton>(ScriptOf(&dialog)));
+    if (hasMethod)
+        controls.push_back(nullptr);
+    for (auto* const field : FindAll<wxTextCtrl>(fixture.sampler))
+        controls.push_back(field);
+    controls.push_back(fixture.store);
+    controls.push_back(fixture.name);
+    controls.push_back(dialog.FindWindow(wxID_CANCEL));
+    controls.push_back(dialog.FindWindow(wxID_OK));
+    controls.push_back(fixture.notebook);
+    RunDialog(dialog,
+              [&]
+              {
+                  CHECK(TabOrder(controls.front(), 40) == controls);
+                  dialog.EndModal(wxID_CANCEL);
+              });
+}
+
 /// Deleted while nobody looks, and while the user edits the initial values: nothing is deleted twice,
 /// which the sanitizers watch.
 template <class Dialog>

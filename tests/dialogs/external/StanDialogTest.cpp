@@ -112,6 +112,22 @@ TEST_CASE("Stan dialog: the box of additional options")
     CHECK(!fixture.options->GetFont().GetUnderlined());
 }
 
+TEST_CASE("Stan dialog: the Tab key goes from the page to the settings and the buttons")
+{
+    Tabs<StanDialog, GibbsPickerStan>(
+        [](StanDialog& dialog)
+        {
+            auto* const summarize = Find<wxCheckBox>(&dialog, 0);
+            return std::vector<wxWindow*>{TextOf(&dialog, 0),
+                                          Find<wxRadioButton>(&dialog, 0),
+                                          Find<wxRadioButton>(&dialog, 2),
+                                          summarize,
+                                          Find<wxCheckBox>(&dialog, 1),
+                                          Find<wxTextCtrl>(summarize->GetParent())};
+        },
+        true);
+}
+
 TEST_CASE("Stan dialog: what it asks and what it gives")
 {
     CheckAll<StanDialog, GibbsPickerStan>(
