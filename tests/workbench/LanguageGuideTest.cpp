@@ -10,7 +10,6 @@
 #include "workbench/Recorder.h"
 #include "workbench/SampleFolder.h"
 #include "workbench/Scratch.h"
-#include "workbench/analysis/ModelMaking.h"
 #include "workbench/engine/Workspace.h"
 #include "workbench/outside/Installed.h"
 #include "workbench/script/Commands.h"
@@ -41,22 +40,6 @@ std::vector<std::string> Examples(std::string const& guide)
     }
     return examples;
 }
-/// The estimated models of which the guide tells.
-void AddModels(workbench::Workspace& workspace)
-{
-    Eigen::MatrixXd draws(8, 5);
-    draws.leftCols(3) << 5e4, 0.03, -0.5, 5.1e4, 0.04, -0.6, 4.9e4, 0.04, -0.4, 5e4, 0.05, -0.3, //
-        5e4, 0.05, -0.4, 5.2e4, 0.04, -0.7, 5e4, 0.03, -0.5, 4.8e4, 0.04, -0.4;
-    draws.col(4) << 600, 700, 650, 720, 610, 680, 690, 660;
-    draws.col(3) = draws.col(4).array().square().inverse();
-    for (auto const* const name : {"ols", "small"})
-    {
-        auto const model = RegressionOfDraws("TOTEMP", {"constant", "GNP", "UNEMP"}, draws);
-        model->dataset = "wages";
-        model->results["logML"] = Eigen::RowVector2d(-120, -119);
-        workspace.Assign(name, model);
-    }
-}
 
 /// Whether an example needs a program that isn't installed.
 bool NeedsMissing(std::string const& example)
@@ -80,7 +63,6 @@ TEST_CASE("the examples of the language guide run")
     for (auto const& example : examples)
     {
         INFO(example);
-        AddModels(workspace);
         if (NeedsMissing(example))
             continue;
         CHECK(interpreter.Run(example, workbench::Interpreter::Echo::None));

@@ -63,3 +63,8 @@ TEST_CASE("equal values have no error, and no values none that could be told")
     CHECK(ErrorOfMean((Eigen::ArrayXd(4) << NA, 1, 1, NA).finished()) == 0.0);
     CHECK(std::isnan(ErrorOfMean(Eigen::ArrayXd::Constant(10, NA))));
 }
+
+TEST_CASE("chains of fewer than four draws tell no error")
+{
+    CHECK(std::isnan(ErrorOfMean((Eigen::ArrayXd(6) << 0, 1, 1, 0, 1, 0).finished(), 2)));
+}
