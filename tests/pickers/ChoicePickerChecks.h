@@ -5,7 +5,6 @@
 #include <wx/choice.h>
 #include <wx/statline.h>
 #include <wx/stattext.h>
-#include <wx/stopwatch.h>
 
 #include "support/Find.h"
 #include "support/Stage.h"
@@ -237,9 +236,7 @@ void ThousandNames()
     wxArrayString names;
     for (int i = 0; i < 1000; ++i)
         names.Add(wxString::Format("name_%04d", i));
-    wxStopWatch watch;
     picker->SetChoices(names);
-    CHECK(watch.Time() < 5000);
     CHECK(Find<wxChoice>(picker)->GetStrings() == names);
     picker->SetSelection(999);
     CHECK(picker->GetSelectionString() == "name_0999");
