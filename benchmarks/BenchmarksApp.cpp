@@ -57,6 +57,7 @@ private:
             benchmarks::MeasureData(table);
             benchmarks::MeasureAnalysis(table);
             benchmarks::MeasureEstimation(table);
+            benchmarks::MeasureOutside(table);
             m_status = table.AllKept() ? 0 : 1;
         }
         catch (std::exception const& error)

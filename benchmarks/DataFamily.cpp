@@ -4,10 +4,10 @@
 #include <cmath>
 #include <numeric>
 #include <random>
-#include <stdexcept>
 
 #include "benchmarks/Families.h"
 #include "benchmarks/Harness.h"
+#include "benchmarks/Silence.h"
 #include "workbench/engine/Expression.h"
 #include "workbench/engine/Progress.h"
 #include "workbench/engine/Workspace.h"
@@ -18,19 +18,6 @@ namespace benchmarks
 namespace
 {
 constexpr Eigen::Index ROWS = 1000000;
-
-/// Takes what a script prints, and shows it to nobody.
-class Silence : public workbench::Output
-{
-public:
-    void Code(std::string const&) override {}
-    void Text(std::string const&) override {}
-    void Terminal(std::string const&) override {}
-    void Matrix(Eigen::MatrixXd const&) override {}
-    void Warning(std::string const&) override {}
-    void Error(std::string const& text) override { throw std::runtime_error(text); }
-    void Line() override {}
-};
 
 /// A dataset d of the variables x1, x2, ..., positive numbers.
 std::shared_ptr<Dataset> Numbers(Eigen::Index columns)

@@ -18,5 +18,6 @@ void MeasureImport(Table& table);
 void MeasureData(Table& table);
 void MeasureAnalysis(Table& table);
 void MeasureEstimation(Table& table);
+void MeasureOutside(Table& table);
 ///@}
 } // namespace benchmarks

@@ -180,9 +180,9 @@ class TestCase(unittest.TestCase):
         self.addCleanup(program.__exit__)
         return program
 
-    def start(self, *arguments, title="Untitled - Zenqo Workbench"):
+    def start(self, *arguments, title="Untitled - Zenqo Workbench", **options):
         """Starts the program and waits for its window."""
-        return Bench(self.program(*arguments), title)
+        return Bench(self.program(*arguments, **options), title)
 
     def start_with_wages(self):
         """A workbench with the dataset `wages`, which is not saved."""

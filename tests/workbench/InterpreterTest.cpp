@@ -206,8 +206,8 @@ TEST_CASE("a command is used as its entry says")
     Desk desk;
     CHECK(desk.Failure("xyzzy();")
           == "Line 1, column 1: there is no command \"xyzzy\"; the commands are: "
-             "clear, compare, create, design, drop, export, forecast, help, import, jags, load, mfx, plot, "
-             "predict, print, regress, save, sort, store, structure and 2 more");
+             "clear, compare, create, design, drop, export, forecast, help, import, jags, load, mfx, octave, "
+             "plot, predict, print, regress, rproject, save, sort and 4 more");
     CHECK(desk.Failure("load();")
           == "Line 1, column 1: \"load\" does not take 0 arguments; expected load(\"path\");");
     CHECK(desk.Failure("load(\"a\", \"b\");")

@@ -1,5 +1,7 @@
 #include "workbench/app/Batch.h"
 
+#include <csignal>
+
 #include <wx/frame.h>
 
 #include "console/ZenqoConsole.h"
@@ -11,6 +13,32 @@
 
 namespace workbench
 {
+namespace
+{
+volatile std::sig_atomic_t isInterrupted = 0;
+
+/// Makes Ctrl+C end the running statement, which so can clear away what it has begun. A second one ends
+/// the process at once.
+class StoppedBySignal : public Progress
+{
+public:
+    StoppedBySignal()
+    {
+        struct sigaction action = {};
+        action.sa_handler = [](int) { isInterrupted = 1; };
+        action.sa_flags = static_cast<int>(SA_RESETHAND);
+        sigaction(SIGINT, &action, nullptr);
+        sigaction(SIGTERM, &action, nullptr);
+    }
+
+    void Update(double) override
+    {
+        if (isInterrupted != 0)
+            throw Interrupted();
+    }
+};
+} // namespace
+
 int RunBatch(std::string const& path)
 {
     // The console is a widget in text mode too, so it needs a parent, which is never shown.
@@ -21,8 +49,8 @@ int RunBatch(std::string const& path)
     try
     {
         Workspace workspace;
-        Progress silent;
-        done = Interpreter(workspace, output, silent).Run(ReadScript(path), Interpreter::Echo::Statements);
+        StoppedBySignal progress;
+        done = Interpreter(workspace, output, progress).Run(ReadScript(path), Interpreter::Echo::Statements);
     }
     catch (Error const& error)
     {

@@ -5,13 +5,13 @@
 #include <cmath>
 #include <limits>
 #include <optional>
-#include <unordered_map>
-#include <unordered_set>
 
 #include "workbench/engine/Error.h"
 #include "workbench/engine/InputFile.h"
+#include "workbench/engine/LabelMaker.h"
 #include "workbench/engine/Progress.h"
 #include "workbench/engine/RecordReader.h"
+#include "workbench/engine/VariableNames.h"
 #include "workbench/engine/Workspace.h"
 
 namespace workbench
@@ -55,56 +55,6 @@ CellKind ReadCell(std::string_view text, double& value)
     return ReadNumber(text, value);
 }
 
-/// The header's names as legal, unique names of variables.
-class VariableNames
-{
-public:
-    VariableNames() { m_taken.insert(CONSTANT); }
-
-    void Add(std::string_view written)
-    {
-        std::string name(written);
-        ProcessID(name);
-        // The count of each name makes a header of thousands of equal names no slower than others.
-        std::string unique = name;
-        for (auto& count = m_counts.try_emplace(name, 1).first->second; m_taken.count(unique) > 0;)
-            unique = name + "_" + std::to_string(++count);
-        m_taken.insert(unique);
-        m_names.push_back(unique);
-        if (unique != written)
-            NoteChange(written, unique);
-    }
-
-    std::vector<std::string> const& Names() const { return m_names; }
-
-    std::string Warning(std::string const& path) const
-    {
-        if (m_changed == 0)
-            return {};
-        auto const rest =
-            m_changed > LISTED ? " and " + std::to_string(m_changed - LISTED) + " more" : "";
-        return "Names in " + Quoted(path) + " were changed to make them legal and unique: " + m_changes
-               + rest + ".";
-    }
-
-private:
-    static constexpr std::size_t LISTED = 10;
-
-    void NoteChange(std::string_view written, std::string const& unique)
-    {
-        if (++m_changed > LISTED)
-            return;
-        m_changes +=
-            (m_changes.empty() ? "" : ", ") + Quoted(std::string(written)) + " to " + Quoted(unique);
-    }
-
-    std::vector<std::string> m_names;
-    std::unordered_set<std::string> m_taken;
-    std::unordered_map<std::string, int> m_counts;
-    std::size_t m_changed = 0;
-    std::string m_changes;
-};
-
 /// What is known of a column while it is read.
 struct Column
 {
@@ -112,21 +62,7 @@ struct Column
     bool isText = false;
     bool readAgain = false; ///< It turned out to be text after numbers had been stored.
     std::optional<TextPlace> outOfRange;
-    LabelledColumn labelled;
-    std::unordered_map<std::string, int> levels;
-
-    /// Appends a label, empty if it is missing, and gives the value that stands for it.
-    double AddLabel(std::string_view text)
-    {
-        labelled.labels.emplace_back(text);
-        if (text.empty())
-            return MISSING;
-        auto const next = static_cast<int>(labelled.levels.size());
-        auto const [entry, isNew] = levels.try_emplace(labelled.labels.back(), next);
-        if (isNew)
-            labelled.levels.push_back(entry->first);
-        return entry->second;
-    }
+    LabelMaker text;
 };
 
 /// A file's table while it is read.
@@ -243,7 +179,7 @@ private:
         if (!column.isText)
             column.hasNumbers = column.hasNumbers || kind != CellKind::Missing;
         else if (!column.readAgain)
-            value = column.AddLabel(kind == CellKind::Missing ? std::string_view() : text);
+            value = column.text.Add(kind == CellKind::Missing ? std::string_view() : text);
         m_table.At(m_row, m_index) = value;
     }
 
@@ -253,8 +189,8 @@ private:
         column.readAgain = column.hasNumbers;
         if (column.readAgain)
             return;
-        column.labelled.labels.reserve(static_cast<std::size_t>(m_table.Rows()));
-        column.labelled.labels.resize(static_cast<std::size_t>(m_row));
+        column.text.made.labels.reserve(static_cast<std::size_t>(m_table.Rows()));
+        column.text.made.labels.resize(static_cast<std::size_t>(m_row));
     }
 
     Table& m_table;
@@ -279,7 +215,7 @@ public:
             return;
         double value = MISSING;
         bool const missing = m_table.Classify(text, quoted, value) == CellKind::Missing;
-        m_table.At(m_row, index) = column.AddLabel(missing ? std::string_view() : text);
+        m_table.At(m_row, index) = column.text.Add(missing ? std::string_view() : text);
     }
 
     void EndRecord(TextPlace const&) override
@@ -292,7 +228,7 @@ public:
     {
         for (auto const& column : m_table.columns)
             if (column.readAgain
-                && column.labelled.labels.size() != static_cast<std::size_t>(m_table.Rows()))
+                && column.text.made.labels.size() != static_cast<std::size_t>(m_table.Rows()))
                 m_table.FailChanged();
     }
 
@@ -341,7 +277,7 @@ Import ImportDelimited(std::string const& path, char delimiter, Progress& progre
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         if (table.columns[i].isText)
             table.dataset->labelledColumns.emplace(static_cast<int>(i + 1),
-                                                   std::move(table.columns[i].labelled));
+                                                   std::move(table.columns[i].text.made));
     return {std::move(table.dataset), table.names.Warning(path)};
 }
 } // namespace workbench

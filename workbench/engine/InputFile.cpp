@@ -71,4 +71,11 @@ std::size_t InputFile::ReadAt(std::uint64_t offset, char* buffer, std::size_t si
     }
     return done;
 }
+
+std::string InputFile::ReadAll() const
+{
+    std::string text(m_size, '\0');
+    text.resize(ReadAt(0, text.data(), text.size()));
+    return text;
+}
 } // namespace workbench

@@ -30,6 +30,9 @@ public:
     /// Reads up to `size` bytes that stand at `offset`, fewer only at the file's end.
     std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size) const;
 
+    /// All that is in it.
+    std::string ReadAll() const;
+
 private:
     std::string m_path;
     int m_descriptor = -1;

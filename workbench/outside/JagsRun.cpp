@@ -17,19 +17,19 @@ namespace workbench
 namespace
 {
 /// JAGS counts iterations in an int, and takes a seed of that size.
-constexpr std::uint64_t LARGEST_INT = std::numeric_limits<int>::max();
+constexpr std::int64_t LARGEST_INT = std::numeric_limits<int>::max();
 
 /// The gauge moves so often.
-constexpr std::uint64_t MARKS = 100;
+constexpr std::int64_t MARKS = 100;
 
 /// The prime that keeps the chains' seeds apart.
 constexpr std::uint64_t SEED_STEP = 1000003;
 
-/// Reads the marks that JAGS sets while it updates: a star for each `MarkEvery(run)` iterations.
+/// Reads the marks that JAGS sets while it updates: a star for each `MarkEvery(sampler)` iterations.
 class JagsProgress : public Listener
 {
 public:
-    explicit JagsProgress(std::uint64_t marks) : m_marks(static_cast<double>(marks)) {}
+    explicit JagsProgress(std::int64_t marks) : m_marks(static_cast<double>(marks)) {}
 
     void Hear(std::string const& piece) override
     {
@@ -49,27 +49,25 @@ private:
     double m_seen = 0.0;
 };
 
-std::uint64_t Quotient(std::uint64_t dividend, std::uint64_t divisor)
+std::int64_t Quotient(std::int64_t dividend, std::int64_t divisor)
 {
     return (dividend + divisor - 1) / divisor;
 }
 
-std::uint64_t MarkEvery(JagsRun const& run)
-{
-    return Quotient(run.burnIn + run.draws * run.thin, MARKS);
-}
+std::int64_t MarkEvery(SamplerSettings const& sampler) { return Quotient(sampler.Iterations(), MARKS); }
 
-std::string InitialValuesFile(std::size_t chain) { return "inits" + std::to_string(chain) + ".R"; }
+std::string InitialValuesFile(int chain) { return "inits" + std::to_string(chain) + ".R"; }
 
 /// The commands that JAGS carries out. They name files of its folder only: nothing in them needs a
 /// quote.
 std::string Commands(JagsRun const& run)
 {
     std::string text;
-    auto const update = [&](std::uint64_t iterations)
+    auto const& sampler = run.sampler;
+    auto const update = [&](std::int64_t iterations)
     {
         if (iterations > 0)
-            text += "update " + std::to_string(iterations) + ", by(" + std::to_string(MarkEvery(run))
+            text += "update " + std::to_string(iterations) + ", by(" + std::to_string(MarkEvery(sampler))
                     + ")\n";
     };
     // The deviance is an affair of a module that is not loaded by itself.
@@ -78,15 +76,15 @@ std::string Commands(JagsRun const& run)
     text += "model in \"model.bug\"\n";
     if (!run.data.empty())
         text += "data in \"data.R\"\n";
-    text += "compile, nchains(" + std::to_string(run.chains) + ")\n";
-    for (std::size_t chain = 1; chain <= run.chains; ++chain)
+    text += "compile, nchains(" + std::to_string(sampler.chains) + ")\n";
+    for (int chain = 1; chain <= sampler.chains; ++chain)
         text +=
             "parameters in \"" + InitialValuesFile(chain) + "\", chain(" + std::to_string(chain) + ")\n";
     text += "initialize\n";
-    update(run.burnIn);
+    update(sampler.burnIn);
     for (auto const& monitor : run.monitors)
-        text += "monitor " + monitor + ", thin(" + std::to_string(run.thin) + ")\n";
-    update(run.draws * run.thin);
+        text += "monitor " + monitor + ", thin(" + std::to_string(sampler.thin) + ")\n";
+    update(sampler.draws * sampler.thin);
     return text + "coda *\nexit\n";
 }
 
@@ -96,55 +94,45 @@ void Check(JagsRun const& run)
         throw Error("no parameters are given to be monitored");
     for (auto const& monitor : run.monitors)
         CheckMonitor(monitor);
-    if (run.initialValues.size() > run.chains)
+    if (run.initialValues.size() > static_cast<std::size_t>(run.sampler.chains))
         throw Error("initial values are given for chain " + std::to_string(run.initialValues.size())
-                    + ", but there are only " + std::to_string(run.chains) + " chains");
-    if (run.thin > LARGEST_INT || run.draws > LARGEST_INT || run.burnIn > LARGEST_INT
-        || run.burnIn + run.draws * run.thin > LARGEST_INT)
+                    + ", but the number of chains is " + std::to_string(run.sampler.chains));
+    if (run.sampler.Iterations() > LARGEST_INT)
         throw Error("burn-in, draws and thinning make more iterations than JAGS can count, which are "
                     + std::to_string(LARGEST_INT));
 }
 
 void WriteFiles(JagsRun const& run, RunFolder const& folder)
 {
-    InputFile const model(run.model);
-    std::string text(model.Size(), '\0');
-    text.resize(model.ReadAt(0, text.data(), text.size()));
-    folder.Write("model.bug", text);
+    folder.Write("model.bug", InputFile(run.model).ReadAll());
     folder.Write("data.R", JagsFile(run.data));
-    for (std::size_t chain = 1; chain <= run.chains; ++chain)
+    auto initialValues = run.initialValues;
+    initialValues.resize(static_cast<std::size_t>(run.sampler.chains));
+    int chain = 0;
+    for (auto const& values : initialValues)
     {
-        auto const values =
-            chain <= run.initialValues.size() ? JagsFile(run.initialValues[chain - 1]) : "";
+        ++chain;
         folder.Write(InitialValuesFile(chain),
-                     values + "`.RNG.name` <- \"base::Mersenne-Twister\"\n`.RNG.seed` <- "
-                         + std::to_string(JagsSeed(run.seed, chain)) + "\n");
+                     JagsFile(values) + "`.RNG.name` <- \"base::Mersenne-Twister\"\n`.RNG.seed` <- "
+                         + std::to_string(JagsSeed(run.sampler.seed, chain)) + "\n");
     }
     folder.Write("commands", Commands(run));
-}
-
-/// The whole text of a file that JAGS wrote.
-std::string TextOf(std::string const& path)
-{
-    InputFile const file(path);
-    std::string text(file.Size(), '\0');
-    text.resize(file.ReadAt(0, text.data(), text.size()));
-    return text;
 }
 
 [[noreturn]] void FailToRead() { throw Error("JAGS wrote its draws in a form that is not known"); }
 
 /// The names of the quantities, each with as many draws as the run was to keep.
-std::vector<std::string> ReadIndex(std::string const& text, std::uint64_t draws)
+std::vector<std::string> ReadIndex(std::string const& text, std::int64_t draws)
 {
     std::vector<std::string> names;
     std::istringstream stream(text);
-    std::uint64_t first = 0;
-    std::uint64_t last = 0;
-    for (std::string name; stream >> name >> first >> last;)
+    std::int64_t before = 0;
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+    for (std::string name; stream >> name >> first >> last; before = last)
     {
         names.push_back(name);
-        if (first != (names.size() - 1) * draws + 1 || last != names.size() * draws)
+        if (first != before + 1 || last != before + draws)
             FailToRead();
     }
     return names;
@@ -175,13 +163,12 @@ void ReadChain(std::string const& text, Eigen::Ref<Eigen::MatrixXd> draws)
 std::shared_ptr<Model> ReadDraws(RunFolder const& folder, JagsRun const& run)
 {
     auto model = std::make_shared<Model>();
-    model->drawNames = ReadIndex(TextOf(folder.Path("CODAindex.txt")), run.draws);
-    auto const perChain = static_cast<Eigen::Index>(run.draws);
-    auto const chains = static_cast<Eigen::Index>(run.chains);
-    model->chains = static_cast<int>(chains);
-    model->draws.resize(perChain * chains, static_cast<Eigen::Index>(model->drawNames.size()));
-    for (Eigen::Index chain = 0; chain < chains; ++chain)
-        ReadChain(TextOf(folder.Path("CODAchain" + std::to_string(chain + 1) + ".txt")),
+    auto const perChain = run.sampler.draws;
+    model->chains = run.sampler.chains;
+    model->drawNames = ReadIndex(InputFile(folder.Path("CODAindex.txt")).ReadAll(), perChain);
+    model->draws.resize(perChain * model->chains, static_cast<Eigen::Index>(model->drawNames.size()));
+    for (int chain = 0; chain < model->chains; ++chain)
+        ReadChain(InputFile(folder.Path("CODAchain" + std::to_string(chain + 1) + ".txt")).ReadAll(),
                   model->draws.middleRows(chain * perChain, perChain));
     return model;
 }
@@ -195,9 +182,10 @@ bool IsAmong(std::vector<std::string> const& names, std::string const& monitor)
 }
 } // namespace
 
-std::uint64_t JagsSeed(std::uint64_t seed, std::uint64_t chain)
+std::uint64_t JagsSeed(std::uint64_t seed, int chain)
 {
-    return (seed % LARGEST_INT + SEED_STEP * (chain - 1)) % LARGEST_INT;
+    constexpr auto modulus = static_cast<std::uint64_t>(LARGEST_INT);
+    return (seed % modulus + SEED_STEP * static_cast<std::uint64_t>(chain - 1)) % modulus;
 }
 
 std::shared_ptr<Model> RunJags(JagsRun const& run, Output& output, Progress& progress)
@@ -206,8 +194,9 @@ std::shared_ptr<Model> RunJags(JagsRun const& run, Output& output, Progress& pro
     RunFolder const folder;
     WriteFiles(run, folder);
     ProgressScope const scope(progress, "Running JAGS");
-    JagsProgress listener(Quotient(run.burnIn, MarkEvery(run))
-                          + Quotient(run.draws * run.thin, MarkEvery(run)));
+    auto const& sampler = run.sampler;
+    JagsProgress listener(Quotient(sampler.burnIn, MarkEvery(sampler))
+                          + Quotient(sampler.draws * sampler.thin, MarkEvery(sampler)));
     auto const said = RunProgram(JAGS, {{}, {"commands"}, folder.Path()}, listener, output, progress);
     // A monitor that can't be set is no failure of JAGS.
     if (said.find("Failed to set trace monitor") != std::string::npos)

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "engine/Model.h"
+#include "workbench/estimation/SamplerSettings.h"
 #include "workbench/outside/JagsText.h"
 
 namespace workbench
@@ -20,15 +21,11 @@ struct JagsRun
     std::vector<JagsValue> data;
     std::vector<std::string> monitors;                 ///< What comes back: mu, beta[2:4].
     std::vector<std::vector<JagsValue>> initialValues; ///< Of the first chains; JAGS finds the others.
-    std::uint64_t draws = 0;                           ///< Kept of each chain.
-    std::uint64_t burnIn = 0;
-    std::uint64_t chains = 0;
-    std::uint64_t thin = 0; ///< Each of this many iterations behind the burn-in is kept.
-    std::uint64_t seed = 0;
+    SamplerSettings sampler;
 };
 
 /// The seed of the generator of chain `chain`, from 1.
-std::uint64_t JagsSeed(std::uint64_t seed, std::uint64_t chain);
+std::uint64_t JagsSeed(std::uint64_t seed, int chain);
 
 /// Runs JAGS in a private folder and gives a model of the draws. Its own words go to `output`. Throws an
 /// Error if something is asked that can't be, or JAGS is not there, or fails.

@@ -119,6 +119,9 @@ Outcome RunSave(Context const& context, Arguments const& arguments)
 std::vector<Command> const& Commands()
 {
     using Kind = ParameterKind;
+    // What goes to a script of another program, and comes back.
+    std::vector<Parameter> const scriptParameters
+        = {{"script", Kind::String}, {"out", Kind::String}, {"back", Kind::String}};
     static std::vector<Command> const commands = {
         {"clear",
          {{"name", Kind::ObjectName}},
@@ -188,6 +191,11 @@ std::vector<Command> const& Commands()
          "Tells how much the dependent variable of a model changes with each regressor.",
          RunEffects,
          {{"point", Kind::Point}, {"type", Kind::Number}}},
+        {"octave",
+         scriptParameters,
+         Naming::Never,
+         "Runs a script of GNU Octave on objects of the workspace, and takes objects back.",
+         RunOctaveCommand},
         {"plot",
          {{"name", Kind::ObjectName},
           {"variables", Kind::String},
@@ -223,6 +231,11 @@ std::vector<Command> const& Commands()
           {"chains", Kind::Number},
           {"thin", Kind::Number},
           {"seed", Kind::Number}}},
+        {"rproject",
+         scriptParameters,
+         Naming::Never,
+         "Runs a script of R on objects of the workspace, and takes objects back.",
+         RunRCommand},
         {"save",
          {{"path", Kind::String}},
          Naming::Never,

@@ -8,23 +8,6 @@ namespace workbench
 {
 namespace
 {
-/// The settings of a sampler, each by its option or else by its default.
-SamplerSettings SettingsOf(Arguments const& arguments)
-{
-    Eigen::VectorXd numbers = Zenqo_SYSTEM_NAMESPACE::GLOBAL_Gibbs.head(5);
-    auto const take = [&](Eigen::Index index, char const* key, std::uint64_t least)
-    {
-        if (arguments.Has(key))
-            numbers[index] = static_cast<double>(arguments.WholeOr(key, 0, least));
-    };
-    take(0, "draws", 1);
-    take(1, "burnin", 0);
-    take(2, "chains", 1);
-    take(3, "thin", 1);
-    take(4, "seed", 1);
-    return MakeSamplerSettings(numbers);
-}
-
 RegressionPrior PriorOf(Arguments const& arguments, Eigen::Index coefficients)
 {
     auto prior = DefaultRegressionPrior(coefficients);
@@ -42,6 +25,22 @@ RegressionPrior PriorOf(Arguments const& arguments, Eigen::Index coefficients)
     return prior;
 }
 } // namespace
+
+SamplerSettings SettingsOf(Arguments const& arguments)
+{
+    Eigen::VectorXd numbers = Zenqo_SYSTEM_NAMESPACE::GLOBAL_Gibbs.head(5);
+    auto const take = [&](Eigen::Index index, char const* key, std::uint64_t least)
+    {
+        if (arguments.Has(key))
+            numbers[index] = static_cast<double>(arguments.WholeOr(key, 0, least));
+    };
+    take(0, "draws", 1);
+    take(1, "burnin", 0);
+    take(2, "chains", 1);
+    take(3, "thin", 1);
+    take(4, "seed", 1);
+    return MakeSamplerSettings(numbers);
+}
 
 Outcome RunRegress(Context const& context, Arguments const& arguments)
 {

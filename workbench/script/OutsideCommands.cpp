@@ -1,22 +1,20 @@
 #include "workbench/script/OutsideCommands.h"
 
-#include "engine/Globals.h"
 #include "workbench/engine/Variables.h"
+#include "workbench/outside/Bridge.h"
 #include "workbench/outside/JagsRun.h"
 #include "workbench/outside/NameList.h"
+#include "workbench/script/EstimationCommands.h"
+#include "workbench/script/ModelSummary.h"
 #include "workbench/script/Output.h"
-#include "workbench/script/Table.h"
+#include "workbench/script/Print.h"
 
 namespace workbench
 {
 namespace
 {
 /// Something of the workspace that is handed to a program, and what it is called there.
-struct Item
-{
-    std::string name;
-    Object object;
-};
+using Item = std::pair<std::string, Object>;
 
 /// What `name` stands for: an object, or "dataset.variable", which becomes a matrix of one column.
 Item FindItem(std::string const& name, Position const& position, Workspace const& workspace)
@@ -47,45 +45,68 @@ std::vector<Item> ItemsAt(Arguments const& arguments, int index, Workspace const
 std::vector<JagsValue> JagsData(Arguments const& arguments, int index, Workspace const& workspace)
 {
     std::vector<JagsValue> data;
-    for (auto const& item : ItemsAt(arguments, index, workspace))
+    for (auto const& [name, object] : ItemsAt(arguments, index, workspace))
     {
-        auto const* matrix = std::get_if<std::shared_ptr<Eigen::MatrixXd>>(&item.object);
+        auto const* matrix = std::get_if<std::shared_ptr<Eigen::MatrixXd>>(&object);
         if (!matrix)
-            throw ScriptError("\"" + item.name
+            throw ScriptError("\"" + name
                                   + "\" can't be handed to JAGS; what can are matrices and "
                                     "variables of datasets, written as dataset.variable",
                               arguments.PositionOf(index));
-        data.push_back({item.name, **matrix});
+        data.push_back({name, **matrix});
     }
     return data;
+}
+
+Outcome RunScript(Bridge const& bridge, Context const& context, Arguments const& arguments)
+{
+    BridgeRun run;
+    run.script = arguments.Text(0);
+    run.handedOut = ItemsAt(arguments, 1, context.workspace);
+    for (auto const& [name, object] : run.handedOut)
+        if (std::holds_alternative<std::shared_ptr<Model>>(object))
+            throw ScriptError("\"" + name + "\" is a model; what can be handed out are datasets, their "
+                                  "variables, and matrices",
+                              arguments.PositionOf(1));
+    run.handedBack = SplitNames(arguments.Text(2));
+    Outcome outcome;
+    outcome.assigned = RunBridge(bridge, run, context.output, context.progress);
+    std::string text = "\n";
+    for (auto const& [name, object] : outcome.assigned)
+    {
+        auto const* dataset = std::get_if<std::shared_ptr<Dataset>>(&object);
+        text += (dataset ? Title(name, **dataset)
+                         : Title(name, *std::get<std::shared_ptr<Eigen::MatrixXd>>(object)))
+                + "\n";
+    }
+    context.output.Text(text);
+    return outcome;
 }
 } // namespace
 
 Outcome RunJagsCommand(Context const& context, Arguments const& arguments)
 {
-    auto const whole = [&](char const* key, int index, std::uint64_t least)
-    {
-        auto const otherwise = static_cast<std::uint64_t>(Zenqo_SYSTEM_NAMESPACE::GLOBAL_Gibbs[index]);
-        return arguments.WholeOr(key, otherwise, least);
-    };
     JagsRun run;
     run.model = arguments.Text(0);
     run.data = JagsData(arguments, 1, context.workspace);
     run.monitors = SplitNames(arguments.Text(2));
     if (arguments.Has("inits"))
         run.initialValues = ReadInitialValues(arguments.Text("inits"));
-    run.draws = whole("draws", 0, 1);
-    run.burnIn = whole("burnin", 1, 0);
-    run.chains = whole("chains", 2, 1);
-    run.thin = whole("thin", 3, 1);
-    run.seed = whole("seed", 4, 0);
-
+    run.sampler = SettingsOf(arguments);
     Outcome outcome;
     auto const model = RunJags(run, context.output, context.progress);
     outcome.result = model;
-    context.output.Text("\n" + Count(model->chains, "chain", "chains") + " of "
-                        + Count(model->draws.rows() / model->chains, "draw", "draws") + ": "
-                        + JoinNames(model->drawNames) + "\n");
+    PrintSummary("JAGS: " + DescribeModel(*model), *model, context.output, context.progress);
     return outcome;
+}
+
+Outcome RunOctaveCommand(Context const& context, Arguments const& arguments)
+{
+    return RunScript(OctaveBridge(), context, arguments);
+}
+
+Outcome RunRCommand(Context const& context, Arguments const& arguments)
+{
+    return RunScript(RBridge(), context, arguments);
 }
 } // namespace workbench

@@ -57,13 +57,11 @@ std::vector<TableColumn> MeasureColumns(Dataset const& dataset, Eigen::Index fir
 void PrintDataset(std::string const& name, Dataset const& dataset, Output& output)
 {
     auto const rows = dataset.data.rows();
-    auto const cols = dataset.data.cols();
     auto const room = output.MaxLines() > 0 ? std::max(1, output.MaxLines() - HEAD_LINES) : rows;
     auto const first = std::max<Eigen::Index>(0, rows - room);
     auto const columns = MeasureColumns(dataset, first);
 
-    std::string text = "\nDataset " + name + ": " + Count(rows, "observation", "observations") + " of "
-                       + Count(std::max<Eigen::Index>(0, cols - 1), "variable", "variables");
+    std::string text = "\n" + Title(name, dataset);
     if (first > 0)
         text += ", of which the last " + std::to_string(rows - first) + " are shown";
     for (std::size_t j = 0; j < columns.size(); ++j)
@@ -85,8 +83,7 @@ void PrintDataset(std::string const& name, Dataset const& dataset, Output& outpu
 
 void PrintMatrix(std::string const& name, Eigen::MatrixXd const& matrix, Output& output)
 {
-    output.Text("\nMatrix " + name + ": " + Count(matrix.rows(), "row", "rows") + ", "
-                + Count(matrix.cols(), "column", "columns") + "\n");
+    output.Text("\n" + Title(name, matrix) + "\n");
     if (matrix.size() > 0)
         output.Matrix(matrix);
 }
@@ -109,6 +106,19 @@ void PrintModel(std::string const& name, Model const& model, Output& output, Pro
         PrintMatrix(name + ", " + AsCell(key), value, output);
 }
 } // namespace
+
+std::string Title(std::string const& name, Dataset const& dataset)
+{
+    auto const variables = std::max<Eigen::Index>(0, dataset.data.cols() - 1);
+    return "Dataset " + name + ": " + Count(dataset.data.rows(), "observation", "observations") + " of "
+           + Count(variables, "variable", "variables");
+}
+
+std::string Title(std::string const& name, Eigen::MatrixXd const& matrix)
+{
+    return "Matrix " + name + ": " + Count(matrix.rows(), "row", "rows") + ", "
+           + Count(matrix.cols(), "column", "columns");
+}
 
 void Print(std::string const& name, Object const& object, Output& output, Progress& progress)
 {

@@ -9,6 +9,12 @@ namespace workbench
 class Output;
 class Progress;
 
+/// What is told of an object on one line: its kind, name and size.
+///@{
+std::string Title(std::string const& name, Dataset const& dataset);
+std::string Title(std::string const& name, Eigen::MatrixXd const& matrix);
+///@}
+
 /// Prints an object under a title line that tells its name and size.
 ///
 /// A dataset becomes a table with tabs between its cells, so that a selection of it copies as a
