@@ -37,14 +37,15 @@ void MeasureOutside(Table& table)
     std::mt19937_64 random(1);
     std::normal_distribution<double> normal;
     workbench::Workspace workspace;
-    workspace.Assign("X", std::make_shared<Eigen::MatrixXd>(
-                              Eigen::MatrixXd::NullaryExpr(ROWS, COLUMNS, [&] { return normal(random); })));
+    workspace.Assign("X", std::make_shared<Eigen::MatrixXd>(Eigen::MatrixXd::NullaryExpr(
+                              ROWS, COLUMNS, [&] { return normal(random); })));
     Silence output;
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const script = [&](std::string const& names)
     {
-        auto const statement = "octave(\"" + folder.Path("nothing.m") + "\", \"" + names + "\", \"" + names + "\");";
+        auto const statement =
+            "octave(\"" + folder.Path("nothing.m") + "\", \"" + names + "\", \"" + names + "\");";
         return Seconds([&] { interpreter.Run(statement, workbench::Interpreter::Echo::None); });
     };
     auto const inFile = "\"" + folder.Path("in") + "\"";

@@ -44,7 +44,8 @@ std::vector<std::string> Examples(std::string const& guide)
 /// Whether an example needs a program that isn't installed.
 bool NeedsMissing(std::string const& example)
 {
-    static std::pair<char const*, char const*> const needs[] = {{"jags(", "jags"}};
+    static std::pair<char const*, char const*> const needs[] = {
+        {"jags(", "jags"}, {"octave(", "octave"}, {"rproject(", "R"}};
     return std::any_of(
         std::begin(needs), std::end(needs), [&](auto const& need)
         { return example.find(need.first) != std::string::npos && IsMissing(need.second); });
@@ -59,7 +60,7 @@ TEST_CASE("the examples of the language guide run")
     workbench::Progress progress;
     workbench::Interpreter interpreter(workspace, output, progress);
     auto const examples = Examples(Guide());
-    CHECK(examples.size() == 24);
+    CHECK(examples.size() == 26);
     for (auto const& example : examples)
     {
         INFO(example);

@@ -33,14 +33,14 @@ std::string VariableNames::Warning(std::string const& source) const
     if (m_changed == 0)
         return {};
     auto const rest = m_changed > LISTED ? " and " + std::to_string(m_changed - LISTED) + " more" : "";
-    return "Names in " + Quoted(source) + " were changed to make them legal and unique: " + m_changes + rest
-           + ".";
+    return "Names in " + Quoted(source) + " were changed to make them legal and unique: " + m_changes
+           + rest + ".";
 }
 
 void VariableNames::NoteChange(std::string_view written, std::string const& unique)
 {
     if (++m_changed <= LISTED)
-        m_changes
-            += (m_changes.empty() ? "" : ", ") + Quoted(std::string(written)) + " to " + Quoted(unique);
+        m_changes +=
+            (m_changes.empty() ? "" : ", ") + Quoted(std::string(written)) + " to " + Quoted(unique);
 }
 } // namespace workbench

@@ -59,62 +59,59 @@ function zenqo_give ()
     endif
     if (! evalin ("base", ["exist (\"" name{1} "\", \"var\")"]))
       error ("the script made no \"%s\" that could be handed back\n", name{1});
-    endif
-    give ([folder "/out-" name{1}], name{1}, evalin ("base", name{1}));
-  endfor
+endif give([folder "/out-" name{1}], name { 1 }, evalin("base", name{1}));
+endfor endfunction
+
+    function give(path, name, object) file = fopen(path, "wb");
+if (is_numbers(object))
+    fprintf(file, "matrix %d %d\n", size(object));
+give_numbers(file, object);
+elseif(isstruct(object) && isscalar(object)) give_dataset(file, name, object);
+else error(
+    ["\"%s\" is of class %s%s and size %s, and can't be handed back: what can is a matrix " ... "of "
+                                                                                                "real "
+                                                                                                "numbers"
+                                                                                                ", or a "
+                                                                                                "struct "
+                                                                                                "of "
+                                                                                                "columns"
+                                                                                                " as a "
+                                                                                                "dataset"
+                                                                                                "\n"],
+    name, class(object), complex_of(object), strjoin(strsplit(num2str(size(object))), " by "));
+endif fclose(file);
 endfunction
 
-function give (path, name, object)
-  file = fopen (path, "wb");
-  if (is_numbers (object))
-    fprintf (file, "matrix %d %d\n", size (object));
-    give_numbers (file, object);
-  elseif (isstruct (object) && isscalar (object))
-    give_dataset (file, name, object);
-  else
-    error (["\"%s\" is of class %s%s and size %s, and can't be handed back: what can is a matrix " ...
-            "of real numbers, or a struct of columns as a dataset\n"],
-           name, class (object), complex_of (object), strjoin (strsplit (num2str (size (object))), " by "));
-  endif
-  fclose (file);
-endfunction
-
-function give_dataset (file, name, object)
-  fields = fieldnames (object);
-  rows = numel (fields);
-  if (rows > 0)
-    rows = numel (object.(fields{1}));
-  endif
-  fprintf (file, "dataset %d %d\n", rows, numel (fields));
-  for i = 1:numel (fields)
-    column = object.(fields{i});
-    if (numel (column) != rows || ! isvector (column) || ! (is_numbers (column) || iscellstr (column)))
-      error ("\"%s.%s\" is no column of a dataset: columns are vectors of real numbers or cells of text, of one length\n", name, fields{i});
+    function give_dataset(file, name, object) fields = fieldnames(object);
+rows = numel(fields);
+if (rows > 0)
+    rows = numel(object.(fields{1}));
+endif fprintf(file, "dataset %d %d\n", rows, numel(fields));
+  for
+      i = 1 : numel(fields) column = object.(fields{i});
+  if (numel(column) != rows || !isvector(column) || !(is_numbers(column) || iscellstr(column)))
+      error("\"%s.%s\" is no column of a dataset: columns are vectors of real numbers or cells of text, "
+            "of one length\n",
+            name, fields{i});
     endif
     if (iscellstr (column))
       text = [cellfun(@(label) [label(:)' "\0"], column(:)', "UniformOutput", false){:}];
-      fprintf (file, "text %d %s\n", numel (text), fields{i});
-      fwrite (file, text, "uint8");
-    else
-      fprintf (file, "number %s\n", fields{i});
-      give_numbers (file, column);
-    endif
-  endfor
-endfunction
+    fprintf(file, "text %d %s\n", numel(text), fields{i});
+    fwrite(file, text, "uint8");
+    else fprintf(file, "number %s\n", fields{i});
+    give_numbers(file, column);
+    endif endfor endfunction
 
-function word = complex_of (object)
-  word = "";
-  if (iscomplex (object))
-    word = ", complex";
-  endif
-endfunction
+        function word = complex_of(object) word = "";
+    if (iscomplex(object))
+        word = ", complex";
+    endif endfunction
 
-function yes = is_numbers (object)
-  yes = (isnumeric (object) || islogical (object)) && isreal (object) && ndims (object) == 2;
-endfunction
+        function yes = is_numbers(object) yes =
+            (isnumeric(object) || islogical(object)) && isreal(object) && ndims(object) == 2;
+    endfunction
 
-function give_numbers (file, numbers)
-  fwrite (file, double (full (numbers)), "double", 0, "ieee-le");
+        function give_numbers(file, numbers) fwrite(file, double(full(numbers)), "double", 0, "ieee-le");
 endfunction
 )";
 
@@ -221,11 +218,10 @@ Bridge const& OctaveBridge()
 Bridge const& RBridge()
 {
     // R itself is a script of the shell that takes no more blanks than these.
-    static Bridge const bridge{
-        R_PROJECT,
-        {"--no-save", "--no-restore", "--no-echo", "-e",
-         "source(file.path(Sys.getenv(\"ZENQO_FOLDER\"),\"zenqo.R\"))"},
-        {{"zenqo.R", ALL_R}}};
+    static Bridge const bridge{R_PROJECT,
+                               {"--no-save", "--no-restore", "--no-echo", "-e",
+                                "source(file.path(Sys.getenv(\"ZENQO_FOLDER\"),\"zenqo.R\"))"},
+                               {{"zenqo.R", ALL_R}}};
     return bridge;
 }
 } // namespace workbench

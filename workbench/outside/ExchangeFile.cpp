@@ -173,7 +173,8 @@ Exchanged ReadDataset(Reader& reader, Eigen::Index rows, Eigen::Index cols)
 
 Exchanged ReadMatrix(Reader& reader, Eigen::Index rows, Eigen::Index cols)
 {
-    if (!reader.Has(static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(cols) * sizeof(double)))
+    if (!reader.Has(static_cast<std::uint64_t>(rows) * static_cast<std::uint64_t>(cols)
+                    * sizeof(double)))
         Reader::FailTorn();
     auto const matrix = std::make_shared<Eigen::MatrixXd>(rows, cols);
     reader.Read(*matrix);
@@ -206,7 +207,8 @@ Exchanged ReadExchange(std::string const& path)
     line >> kind >> rows >> cols;
     // Indices of rows and columns are ints in the toolkit and in the record.
     constexpr auto most = std::numeric_limits<int>::max();
-    if (!line || rows < 0 || cols < 0 || rows > most || cols > most || (kind != "matrix" && kind != "dataset"))
+    if (!line || rows < 0 || cols < 0 || rows > most || cols > most
+        || (kind != "matrix" && kind != "dataset"))
         Reader::FailTorn();
     auto exchanged = kind == "matrix" ? ReadMatrix(reader, rows, cols) : ReadDataset(reader, rows, cols);
     reader.CheckEnd();

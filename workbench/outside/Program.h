@@ -24,8 +24,4 @@ struct Program
 inline constexpr Program JAGS{"JAGS", "jags", &Zenqo_SYSTEM_NAMESPACE::GLOBAL_DirectoryJAGS};
 inline constexpr Program OCTAVE{"GNU Octave", "octave", &Zenqo_SYSTEM_NAMESPACE::GLOBAL_DirectoryOCTAVE};
 inline constexpr Program R_PROJECT{"R", "R", &Zenqo_SYSTEM_NAMESPACE::GLOBAL_DirectoryR};
-
-/// What a user is told who asks for a program that the workbench knows the path of, but does not run:
-/// OpenBUGS or Stan, MATLAB, Stata.
-std::string Refusal(std::string const& name, Program const& instead);
 } // namespace workbench

@@ -28,7 +28,8 @@ struct BridgeDesk : DataDesk
     /// The statement that runs `script`, which lies in a folder with a troublesome name.
     std::string Call(std::string const& script, std::string const& out, std::string const& back) const
     {
-        return command + "(\"" + scratch.Write("ein Skript's $HOME *ä", script) + "\", \"" + out + "\", \"" + back + "\");";
+        return command + "(\"" + scratch.Write("ein Skript's $HOME *ä", script) + "\", \"" + out
+               + "\", \"" + back + "\");";
     }
 
     Eigen::MatrixXd const& Matrix(std::string const& name) const { return *workspace.matrices.at(name); }

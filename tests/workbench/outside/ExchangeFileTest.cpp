@@ -35,8 +35,8 @@ std::shared_ptr<Dataset> MakeMixed()
 
 std::string const NUL(1, '\0');
 
-std::string const MIXED = "dataset 3 3\nnumber x\n" + Bytes({0.1, NA, -0.0}) + "text 8 name\nä b" + NUL + NUL
-                          + "c" + NUL + "number z\n" + Bytes({INF, 5e-324, 1e308});
+std::string const MIXED = "dataset 3 3\nnumber x\n" + Bytes({0.1, NA, -0.0}) + "text 8 name\nä b" + NUL
+                          + NUL + "c" + NUL + "number z\n" + Bytes({INF, 5e-324, 1e308});
 
 /// What a file with this in it gives.
 Exchanged Read(std::string const& content)
@@ -61,7 +61,9 @@ TEST_CASE("a matrix goes and comes back to the last bit")
     auto const path = scratch.Path("file");
     WriteExchange(path, std::make_shared<Eigen::MatrixXd>(matrix));
     CHECK(ReadFile(path)
-          == "matrix 2 3\n" + Bytes({matrix(0, 0), matrix(1, 0), matrix(0, 1), matrix(1, 1), matrix(0, 2), 0}).substr(0, 40)
+          == "matrix 2 3\n"
+                 + Bytes({matrix(0, 0), matrix(1, 0), matrix(0, 1), matrix(1, 1), matrix(0, 2), 0})
+                       .substr(0, 40)
                  + std::string("\x23\x01\0\0\0\0\xf8\xff", 8));
     auto const back = ReadExchange(path);
     CHECK(SameBits(*std::get<std::shared_ptr<Eigen::MatrixXd>>(back.object), matrix));
@@ -91,13 +93,15 @@ TEST_CASE("a dataset goes and comes back with its names, texts and missing value
 
 TEST_CASE("names that are not legal are made so, and a warning tells")
 {
-    auto const back = Read("dataset 1 3\nnumber my end\n" + Bytes({1}) + "number x\n" + Bytes({2}) + "number x\n" + Bytes({3}));
+    auto const back = Read("dataset 1 3\nnumber my end\n" + Bytes({1}) + "number x\n" + Bytes({2})
+                           + "number x\n" + Bytes({3}));
     auto const& names = std::get<std::shared_ptr<Dataset>>(back.object)->varNames;
     CHECK(names[1] == "my_end");
     CHECK(names[2] == "x");
     CHECK(names[3] == "x_2");
     CHECK(back.warning
-          == "Names in \"what came back\" were changed to make them legal and unique: \"my end\" to \"my_end\", "
+          == "Names in \"what came back\" were changed to make them legal and unique: \"my end\" to "
+             "\"my_end\", "
              "\"x\" to \"x_2\".");
 }
 
@@ -112,20 +116,36 @@ TEST_CASE("every missing value of a dataset is the same one")
 
 TEST_CASE("a torn file is an error, and no reason to ask for memory")
 {
-    for (std::string const& torn : std::vector<std::string>{
-             "", "matrix 1 1", "matrix 1 1\n", "matrix 1 1\n1234567", "matrix 1 1\n123456789", "matrix -1 1\n",
-             "matrix 2147483648 1\n", "matrix 2147483647 2147483647\n", "matrix 1\n", "model 1 1\n" + Bytes({1}),
-             "dataset 1 1\nnumber x\n", "dataset 1 1\nnumber x\n1234567", "dataset 2147483647 1\nnumber x\n",
-             "dataset 2147483647 1\ntext 9 x\n123456789", "dataset 1 1\nother x\n" + Bytes({1}),
-             "dataset 1 1\ntext x\na" + NUL, "dataset 1 1\ntext 2 x\na", "dataset 1 1\ntext 2 x\nab",
-             "dataset 2 1\ntext 2 x\na" + NUL, "dataset 1 1\ntext 2 x\n" + NUL + NUL,
-             "dataset 1 1\ntext 18446744073709551615 x\n", "dataset 1 1\nnumber x\n" + Bytes({1, 2})})
+    for (std::string const& torn : std::vector<std::string>{"",
+                                                            "matrix 1 1",
+                                                            "matrix 1 1\n",
+                                                            "matrix 1 1\n1234567",
+                                                            "matrix 1 1\n123456789",
+                                                            "matrix -1 1\n",
+                                                            "matrix 2147483648 1\n",
+                                                            "matrix 2147483647 2147483647\n",
+                                                            "matrix 1\n",
+                                                            "model 1 1\n" + Bytes({1}),
+                                                            "dataset 1 1\nnumber x\n",
+                                                            "dataset 1 1\nnumber x\n1234567",
+                                                            "dataset 2147483647 1\nnumber x\n",
+                                                            "dataset 2147483647 1\ntext 9 x\n123456789",
+                                                            "dataset 1 1\nother x\n" + Bytes({1}),
+                                                            "dataset 1 1\ntext x\na" + NUL,
+                                                            "dataset 1 1\ntext 2 x\na",
+                                                            "dataset 1 1\ntext 2 x\nab",
+                                                            "dataset 2 1\ntext 2 x\na" + NUL,
+                                                            "dataset 1 1\ntext 2 x\n" + NUL + NUL,
+                                                            "dataset 1 1\ntext 18446744073709551615 x\n",
+                                                            "dataset 1 1\nnumber x\n" + Bytes({1, 2})})
     {
         INFO(torn);
         CHECK(Failure(torn) == "what came back is torn");
     }
-    CHECK(Failure("dataset 0 1\nnumber x\n") == "a dataset that comes back needs a variable and an observation at least");
-    CHECK(Failure("dataset 1 0\n") == "a dataset that comes back needs a variable and an observation at least");
+    CHECK(Failure("dataset 0 1\nnumber x\n")
+          == "a dataset that comes back needs a variable and an observation at least");
+    CHECK(Failure("dataset 1 0\n")
+          == "a dataset that comes back needs a variable and an observation at least");
     CHECK(Failure("dataset 1 1\ntext 2 x\n\xe9" + NUL) == "a text that came back is not in UTF-8");
 }
 

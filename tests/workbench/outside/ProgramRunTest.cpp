@@ -182,10 +182,3 @@ TEST_CASE("the last lines of a text are whole ones")
     CHECK(LastLines("one\ntwo\nthree", 5) == "three");
     CHECK(LastLines("onetwothree", 5) == "three");
 }
-
-TEST_CASE("a program that is not run is told, and what is run in its place")
-{
-    CHECK(Refusal("MATLAB", OCTAVE)
-          == "The workbench does not run MATLAB. What comes nearest of the programs that it runs is GNU Octave; "
-             "where that is can be set among the paths to external programs.");
-}

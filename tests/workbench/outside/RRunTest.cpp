@@ -12,7 +12,8 @@ TEST_CASE("R gets and gives matrices and datasets to the last bit")
     auto const dataset = desk["d"];
     desk.Run(desk.Call("cat('läuft\\n')\n"
                        "B <- A; e <- d; n <- none; x2 <- x\n"
-                       "is <- c(is.nan(A[2,3]), is.na(d$x[2]), !is.nan(d$x[2]), is.na(d$name[2]), 1 / A[1,2], 1 / d$x[3])\n"
+                       "is <- c(is.nan(A[2,3]), is.na(d$x[2]), !is.nan(d$x[2]), is.na(d$name[2]), 1 / "
+                       "A[1,2], 1 / d$x[3])\n"
                        "1:2\n",
                        "A, d, none, d.x", "B, e, n, x2, is"));
     CHECK(desk.output.terminal == "läuft\n[1] 1 2\n");
@@ -32,11 +33,13 @@ TEST_CASE("what R gives becomes a matrix or a dataset by what it is")
     if (IsMissing("R"))
         return;
     BridgeDesk desk("rproject");
-    desk.Run(desk.Call("rm(list = ls())\n"
-                       "i <- 1:3; b <- TRUE; m <- matrix(1:4, 2, byrow = TRUE); t <- ts(c(1, 2)); na <- c(1, NA)\n"
-                       "d <- data.frame(f = factor(c('u', NA, 'ä')), `my end` = c(TRUE, NA, FALSE), x = 1:3, check.names = FALSE)\n"
-                       "big <- data.frame(x = numeric(100000), s = 'long')\n",
-                       "A", "i, b, m, t, na, d, big"));
+    desk.Run(desk.Call(
+        "rm(list = ls())\n"
+        "i <- 1:3; b <- TRUE; m <- matrix(1:4, 2, byrow = TRUE); t <- ts(c(1, 2)); na <- c(1, NA)\n"
+        "d <- data.frame(f = factor(c('u', NA, 'ä')), `my end` = c(TRUE, NA, FALSE), x = 1:3, "
+        "check.names = FALSE)\n"
+        "big <- data.frame(x = numeric(100000), s = 'long')\n",
+        "A", "i, b, m, t, na, d, big"));
     CHECK(desk.Matrix("i") == Eigen::MatrixXd(Eigen::Vector3d(1, 2, 3)));
     CHECK(desk.Matrix("b")(0, 0) == 1.0);
     CHECK(desk.Matrix("m") == (Eigen::MatrixXd(2, 2) << 1, 2, 3, 4).finished());
@@ -67,11 +70,14 @@ TEST_CASE("what R can't do is one error in its own words")
     CHECK(Has(failure("", "", "x"), "Error: the script made no \"x\" that could be handed back"));
     CHECK(Has(failure("x <- list(1)", "", "x"), "Error: \"x\" is a list, which can't be handed back"));
     CHECK(Has(failure("x <- 1i", "", "x"), "Error: \"x\" is a complex, which can't be handed back"));
-    CHECK(Has(failure("x <- array(1, c(2, 2, 2))", "", "x"), "Error: \"x\" is a array, which can't be handed back"));
+    CHECK(Has(failure("x <- array(1, c(2, 2, 2))", "", "x"),
+              "Error: \"x\" is a array, which can't be handed back"));
     CHECK(Has(failure("x <- data.frame(a = Sys.Date())", "", "x"),
               "Error: the column \"a\" holds neither numbers nor text, but Date"));
-    CHECK(Has(failure("x <- data.frame()", "", "x"), "a dataset that comes back needs a variable and an observation at least"));
-    CHECK(failure("quit()", "", "x") == "Line 1, column 1: R handed back no \"x\": the script ended it before");
+    CHECK(Has(failure("x <- data.frame()", "", "x"),
+              "a dataset that comes back needs a variable and an observation at least"));
+    CHECK(failure("quit()", "", "x")
+          == "Line 1, column 1: R handed back no \"x\": the script ended it before");
 }
 
 TEST_CASE("a script of R that never ends can be interrupted")
@@ -80,5 +86,6 @@ TEST_CASE("a script of R that never ends can be interrupted")
         return;
     BridgeDesk desk("rproject");
     desk.meter.stopAt = 12;
-    CHECK(desk.Failure(desk.Call("repeat {}", "A", "")) == "Line 1, column 1: interrupted; the statement changed nothing");
+    CHECK(desk.Failure(desk.Call("repeat {}", "A", ""))
+          == "Line 1, column 1: interrupted; the statement changed nothing");
 }
