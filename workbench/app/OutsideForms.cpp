@@ -36,9 +36,20 @@ Asked AskInVain(wxWindow* parent, wxString const& program)
 {
     Dialog dialog(parent);
     if (dialog.ShowModal() == wxID_OK)
-        wxMessageBox(program + " can't be run by this workbench, and nothing was done.\n\nWhat it runs is JAGS.",
+        wxMessageBox(program + " can't be run by this workbench, and nothing was done.\n\nWhat it runs are JAGS, "
+                               "GNU Octave and R.",
                      dialog.GetTitle(), wxOK | wxICON_INFORMATION, parent);
     return {};
+}
+
+/// The statement that runs a script by `command`.
+template <class Dialog>
+Asked AskBridge(wxWindow* parent, std::string const& command)
+{
+    Dialog dialog(parent);
+    if (dialog.ShowModal() != wxID_OK)
+        return {};
+    return BridgeCall(command, dialog.GetScript(), dialog.GetOutputData(), dialog.GetInputData());
 }
 } // namespace
 
@@ -62,9 +73,9 @@ Asked AskOpenBugs(wxWindow* parent) { return AskInVain<BUGSDialog>(parent, "Open
 
 Asked AskStan(wxWindow* parent) { return AskInVain<StanDialog>(parent, "Stan"); }
 
-Asked AskOctave(wxWindow* parent) { return AskInVain<OctaveDialog>(parent, "GNU Octave"); }
+Asked AskOctave(wxWindow* parent) { return AskBridge<OctaveDialog>(parent, "octave"); }
 
-Asked AskRproject(wxWindow* parent) { return AskInVain<RprojectDialog>(parent, "R"); }
+Asked AskRproject(wxWindow* parent) { return AskBridge<RprojectDialog>(parent, "rproject"); }
 
 Asked AskMatlab(wxWindow* parent) { return AskInVain<MatlabDialog>(parent, wxString::FromUTF8("MATLAB®")); }
 
