@@ -1,5 +1,6 @@
 #include "workbench/outside/Bridge.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <set>
 
@@ -92,6 +93,9 @@ std::vector<std::pair<std::string, Object>> RunBridge(Bridge const& bridge, Brid
     launch.arguments = bridge.arguments;
     launch.folder = script.parent_path().string();
     launch.environment = {"ZENQO_FOLDER=" + folder.Path(), "ZENQO_SCRIPT=" + script.string()};
+    // Octave's toolkit complains on the console if the desktop has set no folder for its sockets.
+    if (!std::getenv("XDG_RUNTIME_DIR"))
+        launch.environment.push_back("XDG_RUNTIME_DIR=" + folder.Path());
     Listener listener;
     RunProgram(bridge.program, launch, listener, output, progress);
     std::vector<std::pair<std::string, Object>> back;

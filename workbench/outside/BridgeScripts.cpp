@@ -8,7 +8,7 @@ namespace workbench
 {
 namespace
 {
-constexpr char const* TAKE_M = R"(
+constexpr char const* TAKE_M = R"m(
 % Brings all that is handed over into the workspace of the caller's script.
 function zenqo_take ()
   folder = getenv ("ZENQO_FOLDER");
@@ -47,9 +47,9 @@ function numbers = take_numbers (file, size)
     numbers = fread (file, size, "double=>double", 0, "ieee-le");
   endif
 endfunction
-)";
+)m";
 
-constexpr char const* GIVE_M = R"(
+constexpr char const* GIVE_M = R"m(
 % Hands back what is asked for.
 function zenqo_give ()
   folder = getenv ("ZENQO_FOLDER");
@@ -59,63 +59,88 @@ function zenqo_give ()
     endif
     if (! evalin ("base", ["exist (\"" name{1} "\", \"var\")"]))
       error ("the script made no \"%s\" that could be handed back\n", name{1});
-endif give([folder "/out-" name{1}], name { 1 }, evalin("base", name{1}));
-endfor endfunction
-
-    function give(path, name, object) file = fopen(path, "wb");
-if (is_numbers(object))
-    fprintf(file, "matrix %d %d\n", size(object));
-give_numbers(file, object);
-elseif(isstruct(object) && isscalar(object)) give_dataset(file, name, object);
-else error(
-    ["\"%s\" is of class %s%s and size %s, and can't be handed back: what can is a matrix " ... "of "
-                                                                                                "real "
-                                                                                                "numbers"
-                                                                                                ", or a "
-                                                                                                "struct "
-                                                                                                "of "
-                                                                                                "columns"
-                                                                                                " as a "
-                                                                                                "dataset"
-                                                                                                "\n"],
-    name, class(object), complex_of(object), strjoin(strsplit(num2str(size(object))), " by "));
-endif fclose(file);
+    endif
+    give ([folder "/out-" name{1}], name{1}, evalin ("base", name{1}));
+  endfor
 endfunction
 
-    function give_dataset(file, name, object) fields = fieldnames(object);
-rows = numel(fields);
-if (rows > 0)
-    rows = numel(object.(fields{1}));
-endif fprintf(file, "dataset %d %d\n", rows, numel(fields));
-  for
-      i = 1 : numel(fields) column = object.(fields{i});
-  if (numel(column) != rows || !isvector(column) || !(is_numbers(column) || iscellstr(column)))
-      error("\"%s.%s\" is no column of a dataset: columns are vectors of real numbers or cells of text, "
-            "of one length\n",
-            name, fields{i});
+function give (path, name, object)
+  file = fopen (path, "wb");
+  if (is_numbers (object))
+    fprintf (file, "matrix %d %d\n", size (object));
+    give_numbers (file, object);
+  elseif (isstruct (object) && isscalar (object))
+    give_dataset (file, name, object);
+  else
+    error (["\"%s\" is of class %s%s and size %s, and can't be handed back: what can is a matrix " ...
+            "of real numbers, or a struct of columns as a dataset\n"],
+           name, class (object), complex_of (object), strjoin (strsplit (num2str (size (object))), " by "));
+  endif
+  fclose (file);
+endfunction
+
+function give_dataset (file, name, object)
+  fields = fieldnames (object);
+  rows = numel (fields);
+  if (rows > 0)
+    rows = numel (object.(fields{1}));
+  endif
+  fprintf (file, "dataset %d %d\n", rows, numel (fields));
+  for i = 1:numel (fields)
+    column = object.(fields{i});
+    if (numel (column) != rows || ! isvector (column) || ! (is_numbers (column) || iscellstr (column)))
+      error (["\"%s.%s\" is no column of a dataset: columns are vectors of real numbers or cells of " ...
+              "text, of one length\n"], name, fields{i});
     endif
     if (iscellstr (column))
       text = [cellfun(@(label) [label(:)' "\0"], column(:)', "UniformOutput", false){:}];
-    fprintf(file, "text %d %s\n", numel(text), fields{i});
-    fwrite(file, text, "uint8");
-    else fprintf(file, "number %s\n", fields{i});
-    give_numbers(file, column);
-    endif endfor endfunction
-
-        function word = complex_of(object) word = "";
-    if (iscomplex(object))
-        word = ", complex";
-    endif endfunction
-
-        function yes = is_numbers(object) yes =
-            (isnumeric(object) || islogical(object)) && isreal(object) && ndims(object) == 2;
-    endfunction
-
-        function give_numbers(file, numbers) fwrite(file, double(full(numbers)), "double", 0, "ieee-le");
+      fprintf (file, "text %d %s\n", numel (text), fields{i});
+      fwrite (file, text, "uint8");
+    else
+      fprintf (file, "number %s\n", fields{i});
+      give_numbers (file, column);
+    endif
+  endfor
 endfunction
-)";
 
-constexpr char const* ALL_R = R"(
+function word = complex_of (object)
+  word = "";
+  if (iscomplex (object))
+    word = ", complex";
+  endif
+endfunction
+
+function yes = is_numbers (object)
+  yes = (isnumeric (object) || islogical (object)) && isreal (object) && ndims (object) == 2;
+endfunction
+
+function give_numbers (file, numbers)
+  fwrite (file, double (full (numbers)), "double", 0, "ieee-le");
+endfunction
+)m";
+
+constexpr char const* EXPLAIN_M = R"m(
+% Ends with the error that ended the script. Of a script that can't be parsed "source" tells no more than
+% the path; a copy that is called by its name tells the line and the reason.
+function zenqo_explain ()
+  problem = lasterror ();
+  script = getenv ("ZENQO_SCRIPT");
+  if (strcmp (problem.message, ["source: error sourcing file '" script "'"]))
+    copy = [getenv("ZENQO_FOLDER") "/zenqo_script.m"];
+    file = fopen (copy, "wb");
+    fputs (file, fileread (script));
+    fclose (file);
+    try
+      zenqo_script ();
+    catch explained
+      error ("%s\n", strrep (explained.message, copy, script));
+    end_try_catch
+  endif
+  rethrow (problem);
+endfunction
+)m";
+
+constexpr char const* ALL_R = R"r(
 # Brings what is handed over into the global environment, runs the script there, hands back what is
 # asked for. All of it is local, so the script may remove what it likes.
 local({
@@ -200,18 +225,20 @@ local({
   for (name in readLines(file.path(folder, "out")))
     give(name)
 })
-)";
+)r";
 } // namespace
 
 Bridge const& OctaveBridge()
 {
-    // The folder is named twice because the script may clear the path.
+    // The folder is named again because the script may clear the path.
     static Bridge const bridge{
         OCTAVE,
         {"--quiet", "--no-gui", "--no-history", "--eval",
-         "addpath (getenv (\"ZENQO_FOLDER\")); zenqo_take (); source (getenv (\"ZENQO_SCRIPT\")); "
+         "addpath (getenv (\"ZENQO_FOLDER\")); zenqo_take (); "
+         "try; source (getenv (\"ZENQO_SCRIPT\")); "
+         "catch; addpath (getenv (\"ZENQO_FOLDER\")); zenqo_explain (); end_try_catch; "
          "addpath (getenv (\"ZENQO_FOLDER\")); zenqo_give ();"},
-        {{"zenqo_take.m", TAKE_M}, {"zenqo_give.m", GIVE_M}}};
+        {{"zenqo_take.m", TAKE_M}, {"zenqo_explain.m", EXPLAIN_M}, {"zenqo_give.m", GIVE_M}}};
     return bridge;
 }
 

@@ -33,7 +33,7 @@ TEST_CASE("a script runs in its own folder, and is handed what it asked for")
                                        "head -c 11 \"$ZENQO_FOLDER/in-x\"; echo said >&2;")
                                + MIRROR);
         BridgeDesk desk(which.command);
-        auto const text = desk.Run(desk.Call("the script\n", "A, d; d.x", "x,\n A, d"));
+        auto const text = desk.Run(desk.Call("the script\n", "A, d; d.x", "x,  A, d"));
         auto const& shown = desk.output.terminal;
         CHECK(Has(shown, desk.scratch.Folder() + "\n" + desk.scratch.Path("ein Skript's $HOME *ä")
                              + "\nthe script\n3\nA\nd\nx\nmatrix 3 1\n"));
@@ -146,7 +146,7 @@ TEST_CASE("no run leaves files behind")
     setenv("TMPDIR", temporary.Folder().c_str(), 1);
     {
         BridgeDesk desk("octave");
-        for (std::string const script :
+        for (std::string const& script :
              {std::string(MIRROR), std::string("exit 1"), std::string("exit 0")})
         {
             FakeProgram const fake("octave",

@@ -80,8 +80,8 @@ TEST_CASE("JAGS is handed commands, data, initial values and seeds")
     Eigen::MatrixXd expected(4, 2);
     expected << 1.5, 2e-5, -0.25, na, 0.1, inf, -0.0, 1e308;
     CHECK(SameBits(model.draws, expected));
-    CHECK(desk.meter.begun == std::vector<std::string>{"Running JAGS"});
-    CHECK(desk.meter.ended == 1);
+    CHECK(desk.meter.begun == std::vector<std::string>{"Running JAGS", "Summarizing the draws"});
+    CHECK(desk.meter.ended == 2);
     CHECK(desk.output.text.find("\nJAGS: draws of 2 quantities\n2 chains of 2 draws\nparameter\t") == 0);
 }
 

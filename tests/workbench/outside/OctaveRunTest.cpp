@@ -61,7 +61,11 @@ TEST_CASE("what GNU Octave can't do is one error in its own words")
     { return desk.Failure(desk.Call(script, out, back)); };
     CHECK(Has(failure("x = 1;\nerror (\"boom %d\", 3);\n", "", ""),
               "Line 1, column 1: GNU Octave ended with status 1: error: boom 3"));
-    CHECK(Has(failure("x = [1 2\ny = }\n", "", ""), "parse error near line 2"));
+    auto const unread = failure("x = [1 2\ny = }\n", "", "");
+    CHECK(Has(unread, "Line 1, column 1: GNU Octave ended with status 1: error: parse error near line 2 "
+                      "of file "
+                          + desk.scratch.Path("ein Skript's $HOME *ä")));
+    CHECK(Has(unread, ">>> y = }\n"));
     CHECK(Has(failure("x = undefined_thing;\n", "", ""), "'undefined_thing' undefined"));
     CHECK(failure("", "", "x")
           == "Line 1, column 1: GNU Octave ended with status 1: error: the script made no \"x\" that "
