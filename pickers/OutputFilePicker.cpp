@@ -4,6 +4,7 @@
 #include <wx/radiobut.h>
 #include <wx/sizer.h>
 
+#include "common/FilePath.h"
 #include "common/Text.h"
 
 OutputFilePicker::OutputFilePicker(wxWindow* parent, wxString what)
@@ -20,6 +21,7 @@ OutputFilePicker::OutputFilePicker(wxWindow* parent, wxString what)
     m_file = new wxFilePickerCtrl(
         this, wxID_ANY, wxEmptyString, "Output File:", "All files |*.*;*", wxDefaultPosition,
         wxDefaultSize, wxFLP_SAVE | wxFLP_OVERWRITE_PROMPT | wxFLP_USE_TEXTCTRL | wxFLP_SMALL);
+    zenqo::AllowLongPath(m_file);
     m_file->Enable(false);
     sizer->Add(m_file, 10, wxEXPAND | wxBOTTOM | wxRIGHT | wxLEFT, 5);
 

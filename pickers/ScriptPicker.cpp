@@ -4,6 +4,7 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include "common/FilePath.h"
 #include "common/Text.h"
 #include "common/TextLabel.h"
 
@@ -17,6 +18,7 @@ ScriptPicker::ScriptPicker(wxWindow* parent, wxString& label, int width)
     m_file = new wxFilePickerCtrl(this, wxID_ANY, wxEmptyString, "Select a file", "*.*",
                                   wxDefaultPosition, wxSize(width, 27),
                                   wxFLP_OPEN | wxFLP_FILE_MUST_EXIST | wxFLP_USE_TEXTCTRL | wxFLP_SMALL);
+    zenqo::AllowLongPath(m_file);
     sizer->Add(m_file, 0, wxBOTTOM | wxRIGHT | wxLEFT, 5);
     SetSizer(sizer, true);
     Layout();

@@ -163,6 +163,13 @@ TEST_CASE("output file picker: paths of any kind")
         controls.file->SetPath(wxString::FromUTF8(text));
         CHECK(picker->GetFilename() == text);
     }
+    // Not even the longest path loses its end.
+    std::string const path = "/" + std::string(5000, 'j') + "/draws.csv";
+    Find<wxTextCtrl>(picker)->SetValue(path);
+    CHECK(picker->GetFilename() == path);
+    controls.file->SetPath(path + "2");
+    CHECK(Find<wxTextCtrl>(picker)->GetValue() == path + "2");
+    controls.file->SetPath(wxString::FromUTF8("r\xC3\xA9sultat.csv"));
     AsciiLocale const ascii;
     CHECK(picker->GetFilename().empty());
 }

@@ -57,6 +57,15 @@ TEST_CASE("script picker: typed text is returned as it stands, whether there is 
         field->SetValue(wxString::FromUTF8(text));
         CHECK(picker->GetText() == text);
     }
+    // Not even the longest path loses its end, nor to a key.
+    std::string const path = "/" + std::string(5000, 'j') + "/model.b";
+    field->SetValue(path);
+    field->SetInsertionPointEnd();
+    TypeText("ug");
+    CHECK(picker->GetText() == path + "ug");
+    Find<wxFilePickerCtrl>(picker)->SetPath(path);
+    CHECK(field->GetValue() == path);
+    field->SetValue("models/b.m");
     Keep(Photograph(stage.Frame()), "ScriptPicker");
 }
 
