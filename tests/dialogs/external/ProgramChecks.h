@@ -58,9 +58,10 @@ inline wxFilePickerCtrl* ScriptOf(wxWindow const* dialog)
     return Find<wxFilePickerCtrl>(Find<ScriptPicker>(dialog));
 }
 
-/// Deletes `dialog` and gives `windows` in the order in which they went. Each window below the dialog
-/// must go once.
-inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*> const& windows)
+/// Lets `destroy` delete `dialog` and gives `windows` in the order in which they went. Each window below
+/// the dialog must go once.
+inline std::vector<wxWindow*> Deletions(std::function<void()> const& destroy, wxWindow* dialog,
+                                        std::vector<wxWindow*> const& windows)
 {
     std::vector<wxWindow*> gone;
     for (auto* const window : FindAll<wxWindow>(dialog))
@@ -72,7 +73,7 @@ inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*>
                          event.Skip();
                      });
     auto const count = FindAll<wxWindow>(dialog).size();
-    delete dialog;
+    destroy();
     CHECK(gone.size() == count);
     auto sorted = gone;
     std::sort(sorted.begin(), sorted.end());
@@ -84,12 +85,17 @@ inline std::vector<wxWindow*> Deletions(wxWindow* dialog, std::vector<wxWindow*>
     return order;
 }
 
-/// Deletes the dialog while the user is at work, which `use` is; at once, and when the toolkit gets round
-/// to it.
+/// Deletes the dialog before it is shown, and while the user is at work, which `use` is: at once, and
+/// when the toolkit gets round to it. The windows that `inOrder` gives must go in this order, and nothing
+/// must go twice.
 template <class Dialog>
-void DeletedInUse(std::function<void(Dialog*)> const& use)
+void CheckDeleted(std::function<std::vector<wxWindow*>(Dialog*)> const& inOrder,
+                  std::function<void(Dialog*)> const& use)
 {
     Stage stage;
+    auto* const unused = new Dialog(stage.Frame());
+    auto const unusedOrder = inOrder(unused);
+    CHECK(Deletions([&] { delete unused; }, unused, unusedOrder) == unusedOrder);
     for (bool const atOnce : {true, false})
     {
         auto* const dialog = new Dialog(stage.Frame());
@@ -97,11 +103,17 @@ void DeletedInUse(std::function<void(Dialog*)> const& use)
         PumpUntil([&] { return dialog->IsActive(); });
         Pump(150);
         use(dialog);
-        if (atOnce)
-            delete dialog;
-        else
-            dialog->Destroy();
-        Pump(50);
+        auto const destroy = [&]
+        {
+            if (atOnce)
+                delete dialog;
+            else
+                dialog->Destroy();
+            Pump(50);
+        };
+        CAPTURE(atOnce);
+        auto const order = inOrder(dialog);
+        CHECK(Deletions(destroy, dialog, order) == order);
         CHECK(FindAll<wxDialog>(stage.Frame()).empty());
     }
 }

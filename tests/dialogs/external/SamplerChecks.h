@@ -319,19 +319,12 @@ void Tabs(std::function<std::vector<wxWindow*>(Dialog&)> const& onPage, bool has
               });
 }
 
-/// Deleted while nobody looks, and while the user edits the initial values: nothing is deleted twice,
-/// which the sanitizers watch.
+/// Deleted in order, also while the user edits the initial values.
 template <class Dialog>
 void Deleted(std::function<std::vector<wxWindow*>(Dialog*)> const& inOrder)
 {
-    {
-        Stage stage;
-        auto* const dialog = new Dialog(stage.Frame());
-        auto const expected = inOrder(dialog);
-        CHECK(Deletions(dialog, expected) == expected);
-        CHECK(FindAll<wxDialog>(stage.Frame()).empty());
-    }
-    DeletedInUse<Dialog>(
+    CheckDeleted<Dialog>(
+        inOrder,
         [](Dialog* dialog)
         {
             auto* const inits = Find<InitsNotebook>(dialog);

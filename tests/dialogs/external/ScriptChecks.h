@@ -149,17 +149,18 @@ void Tabs(bool hasOptions)
 template <class Dialog>
 void Deleted()
 {
-    Stage stage;
-    auto* dialog = new Dialog(stage.Frame());
-    std::vector<wxWindow*> const expected{Find<TextPicker>(dialog, 0), Find<TextPicker>(dialog, 1),
-                                          Find<ScriptPicker>(dialog), dialog->FindWindow(wxID_OK)};
-    CHECK(Deletions(dialog, expected) == expected);
-    DeletedInUse<Dialog>(
-        [](Dialog* used)
+    CheckDeleted<Dialog>(
+        [](Dialog* dialog)
         {
-            Click(TextOf(used, 1));
+            return std::vector<wxWindow*>{Find<TextPicker>(dialog, 0), Find<TextPicker>(dialog, 1),
+                                          Find<ScriptPicker>(dialog), dialog->FindWindow(wxID_OK)};
+        },
+        [](Dialog* dialog)
+        {
+            Click(TextOf(dialog, 1));
             TypeText("a");
-            CHECK(used->GetInputData() == "a");
+            CHECK(dialog->GetInputData() == "a");
+            CHECK(TextOf(dialog, 1)->HasFocus());
         });
 }
 
