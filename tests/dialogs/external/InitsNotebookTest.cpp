@@ -198,6 +198,18 @@ TEST_CASE("initial values: with 98 chains the plus tab adds nothing and shows it
     CHECK(notebook->GetSelection() == 97);
     CHECK(notebook->GetPage(97)->IsShownOnScreen());
 
+    // The last chain is closed by hand, and added again.
+    REQUIRE(ClickCloseButton(notebook, 97));
+    CHECK(notebook->GetPageCount() == 98);
+    CHECK(notebook->GetSelection() == 96);
+    CHECK(notebook->GetInits().empty());
+    ClickTab(notebook, 97);
+    CHECK(notebook->GetPageCount() == 99);
+    CHECK(notebook->GetSelection() == 97);
+    CHECK(notebook->GetPageText(97) == "chain98");
+    CHECK(notebook->GetInits().empty());
+    Write(notebook, 97, "last");
+
     // A closed one makes room again.
     Close(notebook, 0);
     CHECK(notebook->GetPageCount() == 98);
@@ -254,6 +266,29 @@ TEST_CASE("initial values: the plus tab works without its icon")
     CHECK(!notebook->GetPageBitmap(1).IsOk());
     ClickTab(notebook, 1);
     CHECK(TabTexts(notebook) == Texts{"chain1", "chain2", ""});
+}
+
+TEST_CASE("initial values: the keys of the tab strip add a chain too, and never show the plus tab")
+{
+    Stage stage;
+    auto* const notebook = MakeNotebook(stage);
+    AddUntil(notebook, 2);
+    Write(notebook, 1, "b");
+    auto const selectedBy = [&](int key)
+    {
+        TabStrip(notebook)->SetFocus();
+        Press(key);
+        Pump(50);
+        return notebook->GetSelection();
+    };
+    CHECK(selectedBy(WXK_HOME) == 0);
+    CHECK(selectedBy(WXK_LEFT) == 0);
+    CHECK(selectedBy(WXK_RIGHT) == 1);
+    CHECK(selectedBy(WXK_END) == 2);
+    CHECK(TabTexts(notebook) == Texts{"chain1", "chain2", "chain3", ""});
+    CHECK(selectedBy(WXK_RIGHT) == 3);
+    CHECK(TabTexts(notebook) == Texts{"chain1", "chain2", "chain3", "chain4", ""});
+    CHECK(notebook->GetInits() == Inits{{"chain2", "b"}});
 }
 
 TEST_CASE("initial values: a random walk loses no text and mixes up none")
