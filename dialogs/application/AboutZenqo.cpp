@@ -13,8 +13,8 @@
 namespace
 {
 constexpr char VERSION[] = "2.5";
-constexpr char CREDITS[]
-    = "Copyright \xC2\xA9 2026 Zenqo authors\n  Department of Econometrics\n  University of Zenqo";
+constexpr wchar_t CREDITS[]
+    = L"Copyright © 2026 Zenqo authors\n  Department of Econometrics\n  University of Zenqo";
 
 struct Style
 {
@@ -50,7 +50,7 @@ AboutZenqo::AboutZenqo(wxWindow* parent)
             {wxFontInfo(15).Slant().Bold(), wxALIGN_CENTRE_HORIZONTAL, wxALIGN_CENTER | wxTOP, 5});
     AddText(this, texts, "Zenqo Statistical Workbench\n",
             {wxFontInfo(10).Italic(), wxALIGN_CENTRE_HORIZONTAL, wxEXPAND | wxALIGN_CENTER | wxBOTTOM, 25});
-    AddText(this, texts, wxString::FromUTF8(CREDITS),
+    AddText(this, texts, CREDITS,
             {zenqo::TypewriterFont(10), wxALIGN_LEFT, wxEXPAND | wxALL, 5});
 
     zenqo::AddCloseRow(this, sizer, wxID_OK);

@@ -46,10 +46,10 @@ DirectoriesDialog::DirectoriesDialog(wxWindow* parent)
     m_jags = addRow("JAGS binary:", engine::GLOBAL_DirectoryJAGS);
     m_bugs = addRow("OpenBUGS binary:", engine::GLOBAL_DirectoryBUGS);
     m_stan = addRow("Stan compiler:", engine::GLOBAL_DirectorySTAN);
-    m_matlab = addRow(wxString::FromUTF8("MATLAB\xC2\xAE binary:"), engine::GLOBAL_DirectoryMATLAB);
+    m_matlab = addRow(L"MATLAB® binary:", engine::GLOBAL_DirectoryMATLAB);
     m_octave = addRow("GNU Octave binary:", engine::GLOBAL_DirectoryOCTAVE);
     m_r = addRow("R-project binary:", engine::GLOBAL_DirectoryR);
-    m_stata = addRow(wxString::FromUTF8("STATA\xC2\xAE binary:"), engine::GLOBAL_DirectorySTATA);
+    m_stata = addRow(L"STATA® binary:", engine::GLOBAL_DirectorySTATA);
 
     zenqo::AddFocusedButtonRow(this, sizer, "&OK");
     zenqo::FitDialog(this, sizer);

@@ -25,9 +25,11 @@ void MatlabDialog::AddOptions(wxSizer* sizer)
 {
     auto* const box
         = zenqo::AddLabelledBox(this, sizer, "Command-line options", 0, zenqo::BELOW_FIRST_BOX);
-    wxString const label = "Options to pass to the command that calls MALTAB:";
-    box->Add(zenqo::MakeTextLabel(box->GetStaticBox(), label, wxSize(150, 23)), 1, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, 5);
-    m_options = new wxTextCtrl(box->GetStaticBox(), wxID_ANY,
+    auto* const inBox = box->GetStaticBox();
+    auto* const label = zenqo::MakeTextLabel(inBox, "Options to pass to the command that calls MALTAB:",
+                                             wxSize(150, 23));
+    box->Add(label, 1, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, 5);
+    m_options = new wxTextCtrl(inBox, wxID_ANY,
                                "-nojvm -nodesktop -nodisplay -nosplash -minimize -wait -r",
                                wxDefaultPosition, wxSize(400, -1));
     m_options->SetFont(zenqo::TypewriterFont(10));

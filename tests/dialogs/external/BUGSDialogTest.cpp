@@ -33,7 +33,10 @@ TEST_CASE("BUGS dialog: pages at the left, settings at the right")
 TEST_CASE("BUGS dialog: the Tab key goes from the page to the settings and the buttons")
 {
     Tabs<BUGSDialog, GibbsPicker>(
-        [](BUGSDialog& dialog) { return std::vector<wxWindow*>{TextOf(&dialog, 0), TextOf(&dialog, 1), TextOf(&dialog, 2)}; },
+        [](BUGSDialog& dialog)
+        {
+            return std::vector<wxWindow*>{TextOf(&dialog, 0), TextOf(&dialog, 1), TextOf(&dialog, 2)};
+        },
         false);
 }
 
