@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <catch2/catch.hpp>
 #include <wx/aui/auibook.h>
 
 #include "support/Find.h"
@@ -10,13 +11,26 @@
 /// The strip of a notebook that shows its tabs.
 inline wxAuiTabCtrl* TabStrip(wxAuiNotebook* notebook) { return Find<wxAuiTabCtrl>(notebook); }
 
+/// Where the tabs and their buttons are is known once they are drawn as they now stand.
+inline void AwaitDrawn(wxAuiTabCtrl* strip)
+{
+    bool drawn = false;
+    auto const onPaint = [&drawn](wxPaintEvent& event)
+    {
+        drawn = true;
+        event.Skip();
+    };
+    strip->Bind(wxEVT_PAINT, onPaint);
+    strip->Refresh();
+    CHECK(PumpUntil([&] { return drawn; }));
+    strip->Unbind(wxEVT_PAINT, onPaint);
+}
+
 /// Clicks on the tab of page `index`, which must be in sight.
 inline void ClickTab(wxAuiNotebook* notebook, std::size_t index)
 {
     auto* const strip = TabStrip(notebook);
-    // Where the tabs are is known once they are drawn.
-    strip->Refresh();
-    Pump(100);
+    AwaitDrawn(strip);
     wxRect const tab = strip->GetPages().Item(index).rect;
     ClickAt(strip, wxPoint(tab.x + tab.width / 2, tab.y + tab.height / 2));
     Pump(50);
@@ -26,6 +40,7 @@ inline void ClickTab(wxAuiNotebook* notebook, std::size_t index)
 inline bool ClickCloseButton(wxAuiNotebook* notebook, std::size_t index)
 {
     auto* const strip = TabStrip(notebook);
+    AwaitDrawn(strip);
     wxRect const tab = strip->GetPages().Item(index).rect;
     for (int x = tab.GetRight(); x > tab.x; --x)
     {

@@ -203,6 +203,8 @@ TEST_CASE("initial values: with 98 chains the plus tab adds nothing and shows it
     CHECK(notebook->GetPageCount() == 98);
     CHECK(notebook->GetSelection() == 96);
     CHECK(notebook->GetInits().empty());
+    // The toolkit has scrolled the strip; the tab may lie under the buttons at its end.
+    TabStrip(notebook)->SetTabOffset(92);
     ClickTab(notebook, 97);
     CHECK(notebook->GetPageCount() == 99);
     CHECK(notebook->GetSelection() == 97);
