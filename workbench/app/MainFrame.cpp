@@ -238,9 +238,14 @@ void MainFrame::RunAsked(Asked const& statement, Page page)
     if (!statement)
         return;
     ShowPage(page);
+    auto const before = m_workspace.models;
     // What went wrong is told on the console.
     if (!Run(*statement))
         ShowPage(PAGE_CONSOLE);
+    // A model that this has made is the one with which the user goes on.
+    for (auto const& [name, model] : m_workspace.models)
+        if (auto const old = before.find(name); old == before.end() || old->second != model)
+            m_side->SelectModel(name);
 }
 
 void MainFrame::EstimateRegression()
@@ -253,11 +258,8 @@ void MainFrame::EstimateRegression()
         name = "reg" + std::to_string(number++);
     while (!std::holds_alternative<std::monostate>(m_workspace.Find(name)));
     RegressionForm form(this, &m_workspace.datasets, name);
-    if (form.ShowModal() != wxID_OK)
-        return;
-    ShowPage(PAGE_CONSOLE);
-    if (Run(form.Script()))
-        m_side->SelectModel(form.Name());
+    if (form.ShowModal() == wxID_OK)
+        RunAsked(form.Script(), PAGE_CONSOLE);
 }
 
 void MainFrame::PrintModel()

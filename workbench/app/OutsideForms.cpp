@@ -12,21 +12,37 @@
 #include "engine/Functions.h"
 #include "workbench/app/CallText.h"
 #include "workbench/app/OutsideCalls.h"
+#include "workbench/engine/Error.h"
+#include "workbench/estimation/SamplerSettings.h"
+#include "workbench/outside/JagsRun.h"
+#include "workbench/outside/NameList.h"
 
 namespace workbench
 {
 namespace
 {
-/// What the dialog of a sampler leaves to be checked; empty if all is well.
+/// What the dialog of a sampler leaves to be checked; empty if all is well. What the command would refuse
+/// of it is refused here, where the user can still mend it.
 wxString Problem(JAGSDialog const& dialog)
 {
+    auto const monitors = SplitNames(dialog.GetMonitor());
     if (dialog.GetScript().empty())
         return "Choose the file of the model.";
-    if (dialog.GetMonitor().empty())
+    if (monitors.empty())
         return "Name at least one parameter to monitor.";
     if (dialog.GetStoreState() && !CheckID(Narrow(dialog.GetModelName())))
         return "The name of the model must consist of letters, digits and underscores, and must not begin with "
                "a digit.";
+    try
+    {
+        auto const chains = ReadInitialValues(InitialValuesText(dialog.GetInits()));
+        CheckJagsRun({{}, {}, monitors, chains, MakeSamplerSettings(dialog.GetGibbsParams())});
+    }
+    catch (Error const& error)
+    {
+        auto const words = Wide(error.what());
+        return words.Left(1).Upper() + words.Mid(1) + ".";
+    }
     return wxString();
 }
 

@@ -36,10 +36,11 @@ public:
         m_seen += static_cast<double>(std::count(piece.begin(), piece.end(), '*'));
     }
 
-    /// The marks are for the gauge alone: "-----| 1000" and "***** 100%".
+    /// The marks are for the gauge alone: "-----| 1000" and "***** 100%", without a dash or a star for
+    /// a burn-in that is shorter than what one of them stands for.
     bool Shows(std::string const& line) const override
     {
-        return line.front() != '-' && line.front() != '*';
+        return line.find_first_of("-|*") != 0;
     }
 
     double Fraction() const override { return std::min(1.0, m_seen / m_marks); }
@@ -86,20 +87,6 @@ std::string Commands(JagsRun const& run)
         text += "monitor " + monitor + ", thin(" + std::to_string(sampler.thin) + ")\n";
     update(sampler.draws * sampler.thin);
     return text + "coda *\nexit\n";
-}
-
-void Check(JagsRun const& run)
-{
-    if (run.monitors.empty())
-        throw Error("no parameters are given to be monitored");
-    for (auto const& monitor : run.monitors)
-        CheckMonitor(monitor);
-    if (run.initialValues.size() > static_cast<std::size_t>(run.sampler.chains))
-        throw Error("initial values are given for chain " + std::to_string(run.initialValues.size())
-                    + ", but the number of chains is " + std::to_string(run.sampler.chains));
-    if (run.sampler.Iterations() > LARGEST_INT)
-        throw Error("burn-in, draws and thinning make more iterations than JAGS can count, which are "
-                    + std::to_string(LARGEST_INT));
 }
 
 void WriteFiles(JagsRun const& run, RunFolder const& folder)
@@ -188,9 +175,23 @@ std::uint64_t JagsSeed(std::uint64_t seed, int chain)
     return (seed % modulus + SEED_STEP * static_cast<std::uint64_t>(chain - 1)) % modulus;
 }
 
+void CheckJagsRun(JagsRun const& run)
+{
+    if (run.monitors.empty())
+        throw Error("no parameters are given to be monitored");
+    for (auto const& monitor : run.monitors)
+        CheckMonitor(monitor);
+    if (run.initialValues.size() > static_cast<std::size_t>(run.sampler.chains))
+        throw Error("initial values are given for chain " + std::to_string(run.initialValues.size())
+                    + ", but the number of chains is " + std::to_string(run.sampler.chains));
+    if (run.sampler.Iterations() > LARGEST_INT)
+        throw Error("burn-in, draws and thinning make more iterations than JAGS can count, which are "
+                    + std::to_string(LARGEST_INT));
+}
+
 std::shared_ptr<Model> RunJags(JagsRun const& run, Output& output, Progress& progress)
 {
-    Check(run);
+    CheckJagsRun(run);
     RunFolder const folder;
     WriteFiles(run, folder);
     ProgressScope const scope(progress, "Running JAGS");

@@ -27,6 +27,9 @@ struct JagsRun
 /// The seed of the generator of chain `chain`, from 1.
 std::uint64_t JagsSeed(std::uint64_t seed, int chain);
 
+/// Throws an Error if something is asked that can't be, as far as that shows before the files are read.
+void CheckJagsRun(JagsRun const& run);
+
 /// Runs JAGS in a private folder and gives a model of the draws. Its own words go to `output`. Throws an
 /// Error if something is asked that can't be, or JAGS is not there, or fails.
 std::shared_ptr<Model> RunJags(JagsRun const& run, Output& output, Progress& progress);

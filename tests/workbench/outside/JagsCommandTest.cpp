@@ -113,14 +113,14 @@ TEST_CASE("the seeds of the chains are apart, and never too large for JAGS")
 TEST_CASE("the marks that JAGS sets move the gauge and stay off the console")
 {
     FakeProgram const jags(
-        "jags", std::string("echo Updating 4; echo '--| 4'; echo '** 100%'; echo '--| 4'; printf '*';")
+        "jags", std::string("echo Updating 4; echo '--| 4'; echo '** 100%'; echo '| 1'; echo '--| 4'; printf '*';")
                     + TELLING);
     JagsDesk desk;
     desk.Run(desk.Call("", "mu", ", \"draws\"=2, \"burnin\"=2, \"chains\"=2, \"thin\"=1"));
     CHECK(desk.output.terminal.find("Updating 4\nload") == std::string::npos);
     CHECK(desk.output.terminal.find("Updating 4\n") == 0);
     CHECK(desk.output.terminal.find("100%") == std::string::npos);
-    CHECK(desk.output.terminal.find("--|") == std::string::npos);
+    CHECK(desk.output.terminal.find("| ") == std::string::npos);
     REQUIRE_FALSE(desk.meter.fractions.empty());
     for (double const fraction : desk.meter.fractions)
         CHECK((fraction >= 0.0 && fraction <= 1.0));
