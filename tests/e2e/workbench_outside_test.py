@@ -101,13 +101,18 @@ class Outside(workbench.TestCase):
         # Until the focus goes on, the list of completions takes clicks and keys.
         desktop.key("Tab")
 
-    def refuse(self, dialog, title, picture):
-        """Presses Run, and the button of the box that comes; the dialog is there again as it was."""
+    def press_run(self, dialog, title):
+        """Presses Run, upon which a box is to come, perhaps under the dialog's own title; gives the box."""
         def boxes():
             return [window for window in desktop.windows(title) if window != dialog]
 
         box = workbench.press_until(boxes, "alt+r")[0]
         desktop.wait_still(box.geometry)
+        return box
+
+    def refuse(self, dialog, title, picture):
+        """Presses Run, and the button of the box that comes; the dialog is there again as it was."""
+        box = self.press_run(dialog, title)
         box.photograph(picture)
         workbench.press_until(lambda: not box.exists(), "Return")
         desktop.wait_until(dialog.exists, "the dialog again")
@@ -249,6 +254,178 @@ class Jags(Outside):
         desktop.key("ctrl+period")
         self.wait_stopped(bench)
         self.finish(bench)
+
+
+class Bridge:
+    """What is tested with both programs that run scripts."""
+
+    # Points of the dialog.
+    SCRIPT = (200, 64)
+    HANDED_OUT = (200, 145)
+    HANDED_BACK = (200, 270)
+
+    NUMBERS = "0.1,-0,1e-300\n1.0000000000000002,inf,NaN\n"
+
+    def fill_all(self, bench, script, out="", back=""):
+        dialog = self.open(bench, "alt+p", self.KEY, self.TITLE)
+        self.type_path(dialog, self.SCRIPT, script)
+        self.fill(dialog, (self.HANDED_OUT, out), (self.HANDED_BACK, back))
+        return dialog
+
+    def test_a_script_is_handed_a_matrix_and_hands_one_back(self):
+        begin = self.file("begin.zqs", "A = [0.1, -0, 1e-300; 1.0000000000000002, inf, nan];\n")
+        bench = self.start("--run", begin, env=self.environment(), title="*Untitled - Zenqo Workbench")
+        script = self.file(f"ein Skript ä.{self.KEY}", self.MIRROR)
+        self.run_dialog(self.fill_all(bench, script, "A", "B,\nA"), f"{self.COMMAND}-filled")
+        bench.wait_console(f'\n >> {self.COMMAND}("{script}", "A", "B, A");\n')
+        console = bench.wait_console("\nMatrix B: 2 rows, 3 columns\nMatrix A: 1 row, 1 column\n")
+        self.assertIn("läuft\n", console)
+
+        # All digits, as the export of the matrix that came last writes them.
+        desktop.key("ctrl+4")
+        dialog = self.open(bench, "alt+d", "m", "Export Matrix B")
+        self.type_path(dialog, (120, 40), self.folder / "B.csv")
+        self.run_dialog(dialog, f"{self.COMMAND}-export", "alt+e")
+        self.assertNotIn("ERROR", bench.wait_console('\n >> export(B, '))
+        self.assertEqual((self.folder / "B.csv").read_text(), self.NUMBERS)
+
+        script.write_text(self.FAILING)
+        self.run_dialog(self.fill_all(bench, script, "A", "A"), f"{self.COMMAND}-failing")
+        console = bench.wait_console(self.FAILURE)
+        self.assertEqual(console.count("ERROR: "), 1)
+        self.assertEqual(self.runs(), [])
+        bench.window.photograph(f"{self.COMMAND}-failed")
+
+        script.write_text(self.HANGING)
+        self.run_dialog(self.fill_all(bench, script), f"{self.COMMAND}-hanging")
+        bench.wait_console("hängt\n")
+        self.wait_process(bench, self.PROCESS)
+        self.stop(bench)
+        self.wait_stopped(bench)
+        self.finish(bench)
+
+
+@needs("octave")
+class Octave(Bridge, Outside):
+    KEY = "o"
+    COMMAND = "octave"
+    PROCESS = "octave"
+    TITLE = "GNU Octave Interface"
+    MIRROR = 'disp ("läuft");\nB = A;\nA = rows (A);\n'
+    FAILING = 'x = 1;\nerror ("boom %d", x);\n'
+    FAILURE = "GNU Octave ended with status 1: error: boom 1\n"
+    HANGING = 'disp ("hängt"); fflush (stdout);\nwhile (true) endwhile\n'
+
+    def stop(self, bench):
+        desktop.key("alt+s", "t")
+
+
+@needs("R")
+class Rproject(Bridge, Outside):
+    KEY = "r"
+    COMMAND = "rproject"
+    PROCESS = "/R"
+    TITLE = "R-project Interface"
+    MIRROR = "cat('läuft\\n')\nB <- A\nA <- nrow(A)\n"
+    FAILING = "stop('boom')\n"
+    FAILURE = ": boom\n"
+    HANGING = "cat('hängt\\n')\nrepeat {}\n"
+
+    def stop(self, bench):
+        # The window that is to close ends the work first.
+        bench.window.close()
+
+
+class NotRun(Outside):
+    """Programs whose dialogs are there, but which the workbench doesn't run."""
+
+    def check(self, bench, key, title, picture, script=None):
+        dialog = self.open(bench, "alt+p", key, title)
+        if script:
+            self.refuse(dialog, "Warning", f"{picture}-without-script")
+            self.type_path(dialog, script, "/nowhere/at all.m")
+        box = self.press_run(dialog, title)
+        box.photograph(f"{picture}-not-run")
+        workbench.press_until(lambda: not box.exists(), "Return")
+        self.assertFalse(dialog.exists())
+
+    def test_what_is_not_run_is_said(self):
+        bench = self.start(env=self.environment())
+        self.check(bench, "b", "BUGS Interface", "openbugs")
+        self.check(bench, "s", "Stan Interface", "stan")
+        self.check(bench, "m", "MATLAB® Interface", "matlab", Bridge.SCRIPT)
+        self.check(bench, "t", "Stata® Interface", "stata", Bridge.SCRIPT)
+        self.assertNotIn(">>", bench.console())
+        self.finish(bench)
+
+
+class Batch(Outside):
+    """Programs that are not what they should be. Each is one error and leaves nothing."""
+
+    CALLS = {
+        "jags": 'jags("{0}", "", "mu", "draws"=2, "chains"=1);',
+        "octave": 'octave("{0}", "", "A");',
+        "r": 'rproject("{0}", "", "A");',
+    }
+    NAMES = {"jags": "JAGS", "octave": "GNU Octave", "r": "R"}
+
+    def outputs(self, paths):
+        """What batch runs say, of which each calls one program that is at a path; side by side."""
+        script = self.file("script", "model { mu ~ dnorm(0, 1) }\n")
+        self.settings.write_text(json.dumps({"programs": paths}))
+        runs = {key: self.program("--batch", self.file(f"{key}.zqs", self.CALLS[key].format(script)),
+                                  env=self.environment()) for key in paths}
+        for program in runs.values():
+            self.assertEqual(program.wait_end(workbench.PATIENCE), 1)
+            self.assertEqual(program.errors(), "")
+        self.assertEqual(self.runs(), [])
+        return {key: program.output() for key, program in runs.items()}
+
+    def check(self, path, words):
+        """The programs at `path` must all be one error that ends in `words`, which may name the program."""
+        for key, output in self.outputs(dict.fromkeys(self.CALLS, str(path))).items():
+            said = words[key] if isinstance(words, dict) else words
+            self.assertEqual(output.split("ERROR: ")[1:],
+                             [f"Line 1, column 1: {said.format(program=self.NAMES[key])}\n"], output)
+
+    def make_program(self, commands):
+        program = self.file("my prögram", f"#!/bin/sh\n{commands}\n")
+        program.chmod(0o700)
+        return program
+
+    def test_a_path_that_leads_nowhere(self):
+        path = self.folder / "no such program"
+        self.check(path, f'{{program}} ("{path}") cannot be started: No such file or directory; install it, or set '
+                         "its path among the paths to external programs")
+
+    def test_a_file_that_is_no_program(self):
+        path = self.file("notes.txt", "no program")
+        self.check(path, f'{{program}} ("{path}") cannot be started: Permission denied; set its path among the paths '
+                         "to external programs")
+
+    def test_a_program_that_crashes(self):
+        self.check(self.make_program("echo 'about to' >&2; kill -SEGV $$"),
+                   "{program} was ended by the signal 11: about to")
+
+    def test_a_program_that_gives_nothing(self):
+        self.check(self.make_program("exit 0"),
+                   {"jags": "JAGS gave no draws", "octave": 'GNU Octave handed back no "A": the script ended it before',
+                    "r": 'R handed back no "A": the script ended it before'})
+
+    def test_a_run_is_ended_by_a_signal_and_leaves_nothing(self):
+        mark = self.folder / "started"
+        path = self.make_program(f"touch {mark}; sleep 1000")
+        self.settings.write_text(json.dumps({"programs": {"octave": str(path)}}))
+        script = self.file("octave.zqs", self.CALLS["octave"].format(self.file("script", "")))
+        program = self.program("--batch", script, env=self.environment())
+        desktop.wait_until(mark.exists, "the start of the program", workbench.PATIENCE)
+        self.assertEqual(len(self.runs()), 1)
+        program.process.send_signal(signal.SIGINT)
+        self.assertEqual(program.wait_end(workbench.PATIENCE), 1)
+        self.assertIn(INTERRUPTED, program.output())
+        self.assertEqual(program.errors(), "")
+        self.assertEqual(self.processes(program), [])
+        self.assertEqual(self.runs(), [])
 
 
 if __name__ == "__main__":

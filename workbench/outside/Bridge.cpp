@@ -76,6 +76,12 @@ Object ReadBack(std::string const& name, Bridge const& bridge, RunFolder const& 
         throw Error("\"" + name + "\": " + error.what());
     }
 }
+
+void SetUnlessSet(Launch& launch, char const* variable, std::string const& value)
+{
+    if (!std::getenv(variable))
+        launch.environment.push_back(variable + ("=" + value));
+}
 } // namespace
 
 std::vector<std::pair<std::string, Object>> RunBridge(Bridge const& bridge, BridgeRun const& run,
@@ -93,9 +99,10 @@ std::vector<std::pair<std::string, Object>> RunBridge(Bridge const& bridge, Brid
     launch.arguments = bridge.arguments;
     launch.folder = script.parent_path().string();
     launch.environment = {"ZENQO_FOLDER=" + folder.Path(), "ZENQO_SCRIPT=" + script.string()};
-    // Octave's toolkit complains on the console if the desktop has set no folder for its sockets.
-    if (!std::getenv("XDG_RUNTIME_DIR"))
-        launch.environment.push_back("XDG_RUNTIME_DIR=" + folder.Path());
+    // Where no desktop has set these, Octave's toolkit complains on the console that it has no folder for
+    // its sockets, and starts a bus for messages, which would stay when the run is over.
+    SetUnlessSet(launch, "XDG_RUNTIME_DIR", folder.Path());
+    SetUnlessSet(launch, "DBUS_SESSION_BUS_ADDRESS", "disabled:");
     Listener listener;
     RunProgram(bridge.program, launch, listener, output, progress);
     std::vector<std::pair<std::string, Object>> back;

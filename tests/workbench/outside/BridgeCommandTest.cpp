@@ -47,6 +47,25 @@ TEST_CASE("a script runs in its own folder, and is handed what it asked for")
     }
 }
 
+TEST_CASE("without a desktop a script starts no bus for messages, with one it finds that")
+{
+    FakeProgram const fake("octave", "echo \"$DBUS_SESSION_BUS_ADDRESS\"");
+    BridgeDesk desk("octave");
+    char const* const bus = std::getenv("DBUS_SESSION_BUS_ADDRESS");
+    std::string const kept = bus ? bus : "";
+    unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    desk.Run(desk.Call("", "", ""));
+    CHECK(Has(desk.output.terminal, "disabled:\n"));
+    setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/a/bus", 1);
+    desk.output.terminal.clear();
+    desk.Run(desk.Call("", "", ""));
+    CHECK(Has(desk.output.terminal, "unix:path=/a/bus\n"));
+    if (bus)
+        setenv("DBUS_SESSION_BUS_ADDRESS", kept.c_str(), 1);
+    else
+        unsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
 TEST_CASE("what comes back is there under its name, whatever had that before")
 {
     FakeProgram const fake(
