@@ -47,6 +47,44 @@ def press_until(condition, *keys):
     return retry_until(condition, lambda: desktop.key(*keys), f"an effect of {' '.join(keys)}")
 
 
+# What a user does in a dialog.
+
+def fill(dialog, *entries):
+    """Clicks into fields and types what is to stand there: pairs of point and text."""
+    for point, text in entries:
+        dialog.click(*point)
+        desktop.key("ctrl+a")
+        first, *others = text.split("\n")
+        desktop.type_text(first)
+        for line in others:
+            desktop.key("Return")
+            desktop.type_text(line)
+
+
+def type_path(dialog, point, path):
+    """Types a path into a field."""
+    fill(dialog, (point, str(path)))
+    # Until the focus goes on, the list of completions takes clicks and keys.
+    desktop.key("Tab")
+
+
+def accept(dialog, key, picture):
+    """Photographs a dialog and ends it with a key."""
+    dialog.photograph(picture)
+    press_until(lambda: not dialog.exists(), key)
+
+
+def box_of(dialog, key, title, picture):
+    """Presses a key in a dialog, upon which a box is to come, perhaps of the dialog's own title; gives the box."""
+    def others():
+        return [window for window in desktop.windows(title) if window != dialog]
+
+    box = press_until(others, key)[0]
+    desktop.wait_still(box.geometry)
+    box.photograph(picture)
+    return box
+
+
 class Bench:
     """A running workbench and its window."""
 
@@ -79,6 +117,13 @@ class Bench:
         """Waits for a dialog or a message box and ends it with a key."""
         box = self.box(title, picture)
         press_until(lambda: not box.exists(), key)
+
+    def open(self, menu, key, title):
+        """Opens a dialog by its entry in a menu."""
+        self.window.activate()
+        desktop.key(menu)
+        press_until(lambda: desktop.windows(title), key)
+        return self.box(title)
 
     def choose_file(self, title, path):
         """Types a path into the desktop's file dialog and presses the button at its lower right."""

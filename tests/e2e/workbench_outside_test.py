@@ -78,49 +78,13 @@ class Outside(workbench.TestCase):
         self.assertEqual(self.processes(bench.program), [])
         self.assertEqual(self.runs(), [])
 
-    def open(self, bench, menu, key, title):
-        """Opens a dialog by its entry in a menu."""
-        bench.window.activate()
-        desktop.key(menu)
-        workbench.press_until(lambda: desktop.windows(title), key)
-        return bench.box(title)
-
-    def fill(self, dialog, *entries):
-        """Clicks into fields and types what is to stand there: pairs of point and text."""
-        for point, text in entries:
-            dialog.click(*point)
-            desktop.key("ctrl+a")
-            first, *others = text.split("\n")
-            desktop.type_text(first)
-            for line in others:
-                desktop.key("Return")
-                desktop.type_text(line)
-
-    def type_path(self, dialog, point, path):
-        self.fill(dialog, (point, str(path)))
-        # Until the focus goes on, the list of completions takes clicks and keys.
-        desktop.key("Tab")
-
-    def press_run(self, dialog, title):
-        """Presses Run, upon which a box is to come, perhaps under the dialog's own title; gives the box."""
-        def boxes():
-            return [window for window in desktop.windows(title) if window != dialog]
-
-        box = workbench.press_until(boxes, "alt+r")[0]
-        desktop.wait_still(box.geometry)
-        return box
-
     def refuse(self, dialog, title, picture):
         """Presses Run, and the button of the box that comes; the dialog is there again as it was."""
-        box = self.press_run(dialog, title)
-        box.photograph(picture)
+        box = workbench.box_of(dialog, "alt+r", title, picture)
         workbench.press_until(lambda: not box.exists(), "Return")
         desktop.wait_until(dialog.exists, "the dialog again")
         dialog.activate()
 
-    def run_dialog(self, dialog, picture, key="alt+r"):
-        dialog.photograph(picture)
-        workbench.press_until(lambda: not dialog.exists(), key)
 
 
 class Jags(Outside):
@@ -160,26 +124,26 @@ class Jags(Outside):
 
     def fill_all(self, bench, model, *sampler):
         """Opens the dialog and fills it but for the initial values."""
-        dialog = self.open(bench, "alt+p", "j", "JAGS Interface")
-        self.fill(dialog, (self.DATA, "line.y, line.x,\nhalf"), (self.MONITORS, '"mu", "tau"'))
-        self.type_path(dialog, self.FILE, model)
-        self.fill(dialog, *sampler)
+        dialog = bench.open("alt+p", "j", "JAGS Interface")
+        workbench.fill(dialog, (self.DATA, "line.y, line.x,\nhalf"), (self.MONITORS, '"mu", "tau"'))
+        workbench.type_path(dialog, self.FILE, model)
+        workbench.fill(dialog, *sampler)
         return dialog
 
     @needs("jags")
     def test_a_model_is_run_by_its_dialog_and_worked_with(self):
         bench = self.start_with_line()
-        model = self.file("ein Modell ä.bug", MODEL)
+        model = self.file("a model's file.bug", MODEL)
         dialog = self.fill_all(bench, model, (self.DRAWS, "300"), (self.BURN_IN, "50"), (self.CHAINS, "2"),
                                (self.THINNING, "2"), (self.SEED, "7"))
         dialog.click(*self.STORE)
-        self.fill(dialog, (self.NAME, "a_jags"))
+        workbench.fill(dialog, (self.NAME, "a_jags"))
         dialog.photograph("jags-filled")
         dialog.click(*self.INITIAL_VALUES)
-        self.fill(dialog, (self.INITS, "mu = 1, tau = 10"))
+        workbench.fill(dialog, (self.INITS, "mu = 1, tau = 10"))
         dialog.click(*self.PLUS)
-        self.fill(dialog, (self.INITS, "mu = -1,\ntau = 0.1"))
-        self.run_dialog(dialog, "jags-initial-values")
+        workbench.fill(dialog, (self.INITS, "mu = -1,\ntau = 0.1"))
+        workbench.accept(dialog, "alt+r", "jags-initial-values")
         statement = (f'a_jags = jags("{model}", "line.y, line.x, half", "mu, tau", '
                      '"inits"="mu = 1, tau = 10 | mu = -1, tau = 0.1", "draws"=300, "burnin"=50, "chains"=2, '
                      '"thin"=2, "seed"=7);')
@@ -206,31 +170,31 @@ class Jags(Outside):
         desktop.key("p")
         bench.wait_console("\n >> print(a_jags);\n")
 
-        dialog = self.open(bench, "alt+m", "t", "Test Parameter Restrictions")
+        dialog = bench.open("alt+m", "t", "Test Parameter Restrictions")
         dialog.click(*self.FIRST_DRAW)
         dialog.click(*self.TO_LEFT_HAND)
-        self.fill(dialog, (self.RIGHT_HAND, "0"))
+        workbench.fill(dialog, (self.RIGHT_HAND, "0"))
         dialog.click(*self.ADD)
-        self.run_dialog(dialog, "jags-test")
+        workbench.accept(dialog, "alt+r", "jags-test")
         bench.wait_console('\n >> test(a_jags, "a_jags.mu > 0");\n')
 
         for key in "frmaie":
-            dialog = self.open(bench, "alt+m", key, "Funtion not implemented")
-            self.run_dialog(dialog, "jags-not-ready", "Return")
+            dialog = bench.open("alt+m", key, "Funtion not implemented")
+            workbench.accept(dialog, "Return", "jags-not-ready")
 
-        dialog = self.open(bench, "alt+m", "o", "Plot Samples")
+        dialog = bench.open("alt+m", "o", "Plot Samples")
         dialog.click(*self.FIRST_DRAW)
         dialog.click(*self.TO_PLOT)
-        self.run_dialog(dialog, "jags-plot")
+        workbench.accept(dialog, "alt+r", "jags-plot")
         window = desktop.wait_window("a_jags: histogram of mu - Figures - Zenqo Workbench", workbench.PATIENCE)
         self.assertGreater(desktop.colours(window.photograph("jags-plotted")), 30)
         bench.window.activate()
 
         # Without a marginal likelihood it is not among those that can be compared.
-        dialog = self.open(bench, "alt+m", "c", "Compare Models")
+        dialog = bench.open("alt+m", "c", "Compare Models")
         dialog.click(*self.FIRST_MODEL)
         dialog.click(*self.TO_COMPARE)
-        self.run_dialog(dialog, "jags-compare")
+        workbench.accept(dialog, "alt+r", "jags-compare")
         self.assertNotIn("ERROR", bench.wait_console('\n >> compare("reg");\n'))
 
     @needs("jags")
@@ -239,15 +203,15 @@ class Jags(Outside):
         dialog = self.fill_all(bench, self.file("broken.bug", "model {\n mu ~ ~ dnorm(0, 1)\n}\n"),
                                (self.THINNING, "0"))
         self.refuse(dialog, "JAGS Interface", "jags-refused")
-        self.fill(dialog, (self.THINNING, "1"))
-        self.run_dialog(dialog, "jags-broken")
+        workbench.fill(dialog, (self.THINNING, "1"))
+        workbench.accept(dialog, "alt+r", "jags-broken")
         console = bench.wait_console("JAGS ended with status 1: Error parsing model file:\n"
                                      'syntax error on line 2 near "~"')
         self.assertEqual(console.count("ERROR: "), 1)
         self.assertEqual(self.runs(), [])
 
-        self.run_dialog(self.fill_all(bench, self.file("good.bug", MODEL), (self.BURN_IN, "2000000000")),
-                        "jags-long")
+        dialog = self.fill_all(bench, self.file("good.bug", MODEL), (self.BURN_IN, "2000000000"))
+        workbench.accept(dialog, "alt+r", "jags-long")
         self.wait_process(bench, "jags")
         bench.wait_console("Updating 2000000000\n")
         bench.window.photograph("jags-running")
@@ -267,37 +231,37 @@ class Bridge:
     NUMBERS = "0.1,-0,1e-300\n1.0000000000000002,inf,NaN\n"
 
     def fill_all(self, bench, script, out="", back=""):
-        dialog = self.open(bench, "alt+p", self.KEY, self.TITLE)
-        self.type_path(dialog, self.SCRIPT, script)
-        self.fill(dialog, (self.HANDED_OUT, out), (self.HANDED_BACK, back))
+        dialog = bench.open("alt+p", self.KEY, self.TITLE)
+        workbench.type_path(dialog, self.SCRIPT, script)
+        workbench.fill(dialog, (self.HANDED_OUT, out), (self.HANDED_BACK, back))
         return dialog
 
     def test_a_script_is_handed_a_matrix_and_hands_one_back(self):
         begin = self.file("begin.zqs", "A = [0.1, -0, 1e-300; 1.0000000000000002, inf, nan];\n")
         bench = self.start("--run", begin, env=self.environment(), title="*Untitled - Zenqo Workbench")
-        script = self.file(f"ein Skript ä.{self.KEY}", self.MIRROR)
-        self.run_dialog(self.fill_all(bench, script, "A", "B,\nA"), f"{self.COMMAND}-filled")
+        script = self.file(f"a script's file.{self.KEY}", self.MIRROR)
+        workbench.accept(self.fill_all(bench, script, "A", "B,\nA"), "alt+r", f"{self.COMMAND}-filled")
         bench.wait_console(f'\n >> {self.COMMAND}("{script}", "A", "B, A");\n')
         console = bench.wait_console("\nMatrix B: 2 rows, 3 columns\nMatrix A: 1 row, 1 column\n")
         self.assertIn("läuft\n", console)
 
         # All digits, as the export of the matrix that came last writes them.
         desktop.key("ctrl+4")
-        dialog = self.open(bench, "alt+d", "m", "Export Matrix B")
-        self.type_path(dialog, (120, 40), self.folder / "B.csv")
-        self.run_dialog(dialog, f"{self.COMMAND}-export", "alt+e")
+        dialog = bench.open("alt+d", "m", "Export Matrix B")
+        workbench.type_path(dialog, (120, 40), self.folder / "B.csv")
+        workbench.accept(dialog, "alt+e", f"{self.COMMAND}-export")
         self.assertNotIn("ERROR", bench.wait_console('\n >> export(B, '))
         self.assertEqual((self.folder / "B.csv").read_text(), self.NUMBERS)
 
         script.write_text(self.FAILING)
-        self.run_dialog(self.fill_all(bench, script, "A", "A"), f"{self.COMMAND}-failing")
+        workbench.accept(self.fill_all(bench, script, "A", "A"), "alt+r", f"{self.COMMAND}-failing")
         console = bench.wait_console(self.FAILURE)
         self.assertEqual(console.count("ERROR: "), 1)
         self.assertEqual(self.runs(), [])
         bench.window.photograph(f"{self.COMMAND}-failed")
 
         script.write_text(self.HANGING)
-        self.run_dialog(self.fill_all(bench, script), f"{self.COMMAND}-hanging")
+        workbench.accept(self.fill_all(bench, script), "alt+r", f"{self.COMMAND}-hanging")
         bench.wait_console("hängt\n")
         self.wait_process(bench, self.PROCESS)
         self.stop(bench)
@@ -340,12 +304,11 @@ class NotRun(Outside):
     """Programs whose dialogs are there, but which the workbench doesn't run."""
 
     def check(self, bench, key, title, picture, script=None):
-        dialog = self.open(bench, "alt+p", key, title)
+        dialog = bench.open("alt+p", key, title)
         if script:
             self.refuse(dialog, "Warning", f"{picture}-without-script")
-            self.type_path(dialog, script, "/nowhere/at all.m")
-        box = self.press_run(dialog, title)
-        box.photograph(f"{picture}-not-run")
+            workbench.type_path(dialog, script, "/nowhere/at all.m")
+        box = workbench.box_of(dialog, "alt+r", title, f"{picture}-not-run")
         workbench.press_until(lambda: not box.exists(), "Return")
         self.assertFalse(dialog.exists())
 

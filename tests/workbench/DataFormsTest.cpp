@@ -5,6 +5,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/dialog.h>
+#include <wx/filepicker.h>
 #include <wx/listbox.h>
 #include <wx/radiobox.h>
 #include <wx/textctrl.h>
@@ -13,6 +14,7 @@
 #include "support/ListClicks.h"
 #include "support/ModalScript.h"
 #include "support/Stage.h"
+#include "workbench/Scratch.h"
 #include "workbench/engine/Workspace.h"
 
 using workbench::Asked;
@@ -123,6 +125,51 @@ TEST_CASE("a structure's statement names the format, and empty names take the st
                           Find<wxChoice>(dialog, 1)->SetSelection(format);
                       })
               == Asked("structure(wages, \"age\", \"" + std::string(formats[format]) + "\", \"wage\");"));
+}
+
+TEST_CASE("an export replaces a file after a question only, and until then the dialog comes again")
+{
+    Stage stage;
+    auto datasets = Datasets();
+    Scratch scratch;
+    auto const old = scratch.Write("old.csv", "old");
+    auto const fresh = scratch.Path("fresh.csv");
+    auto const accept = [](std::string const& path, int delimiter)
+    {
+        return [=](wxDialog* dialog)
+        {
+            Find<wxFilePickerCtrl>(dialog)->SetPath(path);
+            Find<wxRadioBox>(dialog)->SetSelection(delimiter);
+            return wxID_OK;
+        };
+    };
+    std::string path;
+    {
+        ModalScript script;
+        script.Then(accept(old, 1)).Then(wxID_NO).Then(accept(fresh, 2));
+        CHECK(workbench::AskExport(stage.Frame(), datasets, 1, path)
+              == Asked("export(wages, \"" + fresh + "\", \"\\t\");"));
+        CHECK(path == fresh);
+        auto const& question = script.Shown().at(1);
+        CHECK(question.text == "old.csv exists. Replace it?");
+        CHECK(question.caption == "Export Data");
+        CHECK(question.style == (wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION));
+        CHECK(question.parent == stage.Frame());
+    }
+    {
+        ModalScript script;
+        script.Then(accept(old, 1)).Then(wxID_YES);
+        CHECK(workbench::AskExportMatrix(stage.Frame(), "A", path)
+              == Asked("export(A, \"" + old + "\", \";\");"));
+        CHECK(path == old);
+        CHECK(script.Shown().at(1).caption == "Export Matrix A");
+    }
+    path.clear();
+    ModalScript script;
+    script.Then(accept(old, 0)).Then(wxID_NO).Then(wxID_CANCEL);
+    CHECK(workbench::AskExportMatrix(stage.Frame(), "A", path) == Asked());
+    CHECK(path.empty());
+    CHECK(ReadFile(old) == "old");
 }
 
 TEST_CASE("a cancelled data dialog composes nothing")

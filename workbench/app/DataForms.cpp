@@ -1,6 +1,7 @@
 #include "workbench/app/DataForms.h"
 
 #include <wx/arrstr.h>
+#include <wx/filename.h>
 
 #include "dialogs/application/ExportMatrixDialog.h"
 #include "dialogs/data/ClearDatasetDialog.h"
@@ -12,6 +13,7 @@
 #include "dialogs/data/SortDataDialog.h"
 #include "dialogs/data/SummarizeDataDialog.h"
 #include "workbench/app/CallText.h"
+#include "workbench/app/Overwrite.h"
 #include "workbench/plot/Figure.h"
 
 namespace workbench
@@ -21,9 +23,20 @@ namespace
 /// A delimiter as the script language writes it.
 std::string DelimiterText(char delimiter) { return delimiter == '\t' ? "\\t" : std::string(1, delimiter); }
 
-std::string ExportCall(std::string const& name, std::string const& path, char delimiter)
+/// The statement that exports what `name()` tells to the file that the user names in `dialog`, whose path
+/// goes to `path`. Where the file isn't to be replaced after all the dialog comes again.
+template <class Dialog, class Name>
+Asked AskForFile(wxWindow* parent, Dialog& dialog, Name name, std::string& path)
 {
-    return CallText("export").Name(name).Text(path).Text(DelimiterText(delimiter)).Done();
+    while (dialog.ShowModal() == wxID_OK)
+    {
+        auto const file = dialog.GetFileName();
+        if (!MayWrite(Wide(file), dialog.GetTitle(), parent))
+            continue;
+        path = file;
+        return CallText("export").Name(name()).Text(file).Text(DelimiterText(dialog.GetDelimiter())).Done();
+    }
+    return {};
 }
 
 /// Shows a dialog in which the dataset `shown` is selected and nothing chosen of it.
@@ -47,19 +60,13 @@ std::string WithVariables(char const* command, Dialog const& dialog)
 Asked AskExport(wxWindow* parent, DatasetMap& datasets, int shown, std::string& path)
 {
     ExportDataDialog dialog(parent, &datasets, shown, true);
-    if (dialog.ShowModal() != wxID_OK)
-        return {};
-    path = dialog.GetFileName();
-    return ExportCall(dialog.GetDatasetName(), path, dialog.GetDelimiter());
+    return AskForFile(parent, dialog, [&] { return dialog.GetDatasetName(); }, path);
 }
 
 Asked AskExportMatrix(wxWindow* parent, std::string const& matrix, std::string& path)
 {
     ExportMatrixDialog dialog(parent, "Export Matrix " + Wide(matrix), true, matrix);
-    if (dialog.ShowModal() != wxID_OK)
-        return {};
-    path = dialog.GetFileName();
-    return ExportCall(matrix, path, dialog.GetDelimiter());
+    return AskForFile(parent, dialog, [&] { return matrix; }, path);
 }
 
 Asked AskClearDataset(wxWindow* parent, DatasetMap& datasets, int shown)

@@ -6,7 +6,6 @@
 #include <wx/dataobj.h>
 #include <wx/filefn.h>
 #include <wx/listbox.h>
-#include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/splitter.h>
 #include <wx/stattext.h>
@@ -14,6 +13,7 @@
 #include "common/Text.h"
 #include "dialogs/application/ExportFigureDialog.h"
 #include "workbench/app/FigureView.h"
+#include "workbench/app/Overwrite.h"
 #include "workbench/engine/Error.h"
 #include "workbench/plot/Figure.h"
 
@@ -178,11 +178,7 @@ void FigureWindow::ExportTo(wxFileName path, wxSize const& pixels)
 {
     if (!path.HasExt())
         path.SetExt("png");
-    // The path may have been typed, and then nobody has asked yet.
-    if (path.FileExists()
-        && wxMessageBox(path.GetFullName() + " exists. Replace it?", "Export Figure",
-                        wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this)
-               != wxYES)
+    if (!MayWrite(path, "Export Figure", this))
         return;
     auto const& figure = *m_entries[static_cast<std::size_t>(m_list->GetSelection())].figure;
     m_exportPath = zenqo::ToNarrow(path.GetFullPath());

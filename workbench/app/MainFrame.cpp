@@ -62,7 +62,11 @@ MainFrame::MainFrame(std::string const& samples, std::string const& settingsFile
     m_console->PrintOnStartup();
     NoteWhetherSaved();
     m_preferences.emplace(settingsFile,
-                          [this](std::string const& text) { m_console->PrintOnConsoleWarning(text); });
+                          [this](std::string const& text)
+                          {
+                              ShowPage(PAGE_CONSOLE);
+                              m_console->PrintOnConsoleWarning(text);
+                          });
 }
 
 MainFrame::~MainFrame() = default;
