@@ -47,13 +47,10 @@ class Analysis(workbench.TestCase):
 
     def open(self, bench, key, title):
         """Opens a dialog of the menu Model."""
-        desktop.key("alt+m")
-        workbench.press_until(lambda: desktop.windows(title), key)
-        return bench.box(title)
+        return bench.open("alt+m", key, title)
 
     def accept(self, dialog, picture, key="Return"):
-        dialog.photograph(picture)
-        workbench.press_until(lambda: not dialog.exists(), key)
+        workbench.accept(dialog, key, picture)
 
     def test_without_a_model_an_entry_says_so(self):
         bench = self.start()
