@@ -287,6 +287,11 @@ def colours(picture):
     return int(run("identify", "-format", "%k", picture))
 
 
+def fingerprint(picture):
+    """A text that tells a picture's pixels from others'."""
+    return run("identify", "-format", "%#", picture)
+
+
 def output_folder():
     folder = Path(os.environ.get("ZENQO_TEST_OUTPUT", "."))
     folder.mkdir(parents=True, exist_ok=True)

@@ -183,9 +183,16 @@ class Analysis(workbench.TestCase):
         dialog.click(*self.ADD)
 
     def choose_both(self, dialog):
+        def shown():
+            return desktop.fingerprint(dialog.photograph("choose-models"))
+
         for _ in range(2):
             dialog.click(*self.FIRST_MODEL)
+            before = shown()
             dialog.click(*self.TO_COMPARE)
+            # Until the list is drawn again its next entry takes no click.
+            desktop.wait_until(lambda: shown() != before, "another list")
+            desktop.wait_still(shown)
 
 
 if __name__ == "__main__":

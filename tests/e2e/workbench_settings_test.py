@@ -240,10 +240,12 @@ class Export(workbench.TestCase):
                 self.assertEqual(old.read_text(), "old")
 
         # The window itself says why it can't be.
-        before = figures.photograph("export-figure-before").read_bytes()
+        def shown():
+            return desktop.fingerprint(figures.photograph("export-figure-failed"))
+
+        before = shown()
         ask(old / "history.png", "export-figure-nowhere")
-        desktop.wait_until(lambda: figures.photograph("export-figure-failed").read_bytes() != before, "a message",
-                           workbench.PATIENCE)
+        desktop.wait_until(lambda: shown() != before, "a message", workbench.PATIENCE)
         bench.window.activate()
         self.assertNotIn("ERROR", bench.console())
         self.finish(bench)

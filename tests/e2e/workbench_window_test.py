@@ -34,8 +34,7 @@ class LongWork(workbench.TestCase):
 
     def page(self, bench, name):
         """What the page shows now, as a number that tells pictures apart."""
-        picture = bench.window.photograph(name)
-        return desktop.run("identify", "-format", "%#", picture)
+        return desktop.fingerprint(bench.window.photograph(name))
 
     def test_the_window_lives_and_the_readout_follows_the_pointer(self):
         script = self.file("long.zqs", f'large = import("{self.large_file()}", ",");\n')
@@ -77,8 +76,7 @@ class Sizes(workbench.TestCase):
         """Photographs all pages; none may be empty."""
         for page, key in self.PAGES.items():
             desktop.key(key)
-            desktop.wait_still(lambda: desktop.run(
-                "identify", "-format", "%#", bench.window.photograph(f"{name}-{page}")))
+            desktop.wait_still(lambda: desktop.fingerprint(bench.window.photograph(f"{name}-{page}")))
             self.assertGreater(desktop.colours(desktop.output_folder() / f"{name}-{page}.png"), 10)
 
     def test_small_and_maximised(self):
