@@ -29,7 +29,7 @@ double ByHand(std::string const& code)
 void MeasureOutside(Table& table)
 {
     Claim const wholeClaim{"octave, 100,000 x 20 there and back: against load and save", 1.5};
-    Claim const aloneClaim{"octave, there and back, less an empty run: against load and save", 1.5};
+    Claim const aloneClaim{"octave, less an empty run, there and back: against both", 1.5};
     if (!table.Wants(wholeClaim.name) && !table.Wants(aloneClaim.name))
         return;
     workbench::RunFolder const folder;
