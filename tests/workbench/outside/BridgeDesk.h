@@ -32,6 +32,18 @@ struct BridgeDesk : DataDesk
                + "\", \"" + back + "\");";
     }
 
+    /// Looks whether the script has handed back copies: `B` of A, `e` of d, `n` of none, `x2` of d.x.
+    void CheckCopies()
+    {
+        CHECK(SameBits(Matrix("B"), Matrix("A")));
+        auto back = (*this)["e"];
+        back.name = "d";
+        CHECK(SameBits(back, (*this)["d"]));
+        CHECK(Matrix("n").rows() == 0);
+        CHECK(Matrix("n").cols() == 3);
+        CHECK(SameBits(Matrix("x2"), (*this)["d"].data.col(1)));
+    }
+
     Eigen::MatrixXd const& Matrix(std::string const& name) const { return *workspace.matrices.at(name); }
 
     std::string command;

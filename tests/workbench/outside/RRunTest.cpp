@@ -8,8 +8,6 @@ TEST_CASE("R gets and gives matrices and datasets to the last bit")
     if (IsMissing("R"))
         return;
     BridgeDesk desk("rproject");
-    auto const matrix = desk.Matrix("A");
-    auto const dataset = desk["d"];
     desk.Run(desk.Call("cat('läuft\\n')\n"
                        "B <- A; e <- d; n <- none; x2 <- x\n"
                        "is <- c(is.nan(A[2,3]), is.na(d$x[2]), !is.nan(d$x[2]), is.na(d$name[2]), 1 / "
@@ -17,13 +15,7 @@ TEST_CASE("R gets and gives matrices and datasets to the last bit")
                        "1:2\n",
                        "A, d, none, d.x", "B, e, n, x2, is"));
     CHECK(desk.output.terminal == "läuft\n[1] 1 2\n");
-    CHECK(SameBits(desk.Matrix("B"), matrix));
-    auto back = desk["e"];
-    back.name = "d";
-    CHECK(SameBits(back, dataset));
-    CHECK(desk.Matrix("n").rows() == 0);
-    CHECK(desk.Matrix("n").cols() == 3);
-    CHECK(SameBits(desk.Matrix("x2"), dataset.data.col(1)));
+    desk.CheckCopies();
     double const inf = std::numeric_limits<double>::infinity();
     CHECK(desk.Matrix("is") == (Eigen::MatrixXd(6, 1) << 1, 1, 1, 1, -inf, -inf).finished());
 }
