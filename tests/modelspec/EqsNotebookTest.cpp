@@ -6,6 +6,7 @@
 #include "modelspec/RoleChecks.h"
 #include "support/InstalledIcon.h"
 #include "support/TabClicks.h"
+#include "support/WalkSteps.h"
 
 using namespace role_checks;
 
@@ -412,7 +413,7 @@ TEST_CASE("equations notebook: a random walk loses nothing and invents nothing")
                 here.Add(name);
     };
 
-    for (int step = 0; step < 10000; ++step)
+    for (int step = 0; step < WALK_STEPS; ++step)
     {
         INFO("seed " << seed << ", step " << step);
         unsigned const current = static_cast<unsigned>(notebook->GetSelection());

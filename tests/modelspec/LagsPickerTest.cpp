@@ -14,6 +14,7 @@
 #include "support/ListClicks.h"
 #include "support/Stage.h"
 #include "support/TabOrder.h"
+#include "support/WalkSteps.h"
 
 namespace
 {
@@ -359,7 +360,7 @@ TEST_CASE("lags picker: 10,000 random steps")
     bool adds = true;
     bool changed = false;
     Range spins{2, 2};
-    for (int step = 0; step < 10000; ++step)
+    for (int step = 0; step < WALK_STEPS; ++step)
     {
         INFO("seed " << seed << ", step " << step);
         switch (random() % 8)

@@ -18,6 +18,7 @@
 #include "support/Find.h"
 #include "support/ListClicks.h"
 #include "support/Stage.h"
+#include "support/WalkSteps.h"
 
 /// What the pickers with a left list and role lists have in common, as their tests see it.
 namespace role_checks
@@ -157,7 +158,7 @@ void RandomWalk(Driver<Picker>& driver, std::function<void()> const& check, unsi
     std::mt19937 random(seed);
     bool changed = driver.picker->GetChanged();
     std::size_t const roles = driver.controls.buttons.size();
-    for (int step = 0; step < 10000; ++step)
+    for (int step = 0; step < WALK_STEPS; ++step)
     {
         INFO("seed " << seed << ", step " << step);
         std::size_t const role = random() % roles;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "modelspec/RoleChecks.h"
+#include "support/WalkSteps.h"
 
 /// A second, plain telling of what the lists of a picker must show, for tests that compare the two
 /// step by step.
@@ -172,7 +173,7 @@ void WalkWithModel(Driver<Picker>& driver, RoleModel model,
 {
     std::mt19937 random(seed);
     model.Pick(0);
-    for (int step = 0; step < 10000; ++step)
+    for (int step = 0; step < WALK_STEPS; ++step)
     {
         INFO("seed " << seed << ", step " << step);
         auto const role = random() % model.roles.size();
