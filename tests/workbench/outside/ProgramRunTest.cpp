@@ -61,13 +61,6 @@ long PeakKilobytes()
     getrusage(RUSAGE_SELF, &usage);
     return usage.ru_maxrss;
 }
-
-#ifdef __SANITIZE_ADDRESS__
-/// The address sanitizer keeps so many kilobytes of what was freed.
-constexpr long FREED_AND_KEPT = 262144;
-#else
-constexpr long FREED_AND_KEPT = 0;
-#endif
 } // namespace
 
 TEST_CASE("what a program writes goes to the console, and what it said at last comes back")
@@ -135,9 +128,12 @@ TEST_CASE("a program that hangs can be interrupted, and is gone then")
 TEST_CASE("of a program that writes very much the first and the last is shown")
 {
     Desk desk;
-    auto const before = PeakKilobytes();
+    [[maybe_unused]] auto const before = PeakKilobytes();
     desk.RunUnheard("echo first; yes 'and so on' | head -c 220000000; echo; echo the last");
-    CHECK(PeakKilobytes() - before < 40000 + FREED_AND_KEPT);
+#ifndef __SANITIZE_ADDRESS__
+    // The address sanitizer keeps much of what was freed, so that there the peak tells nothing.
+    CHECK(PeakKilobytes() - before < 40000);
+#endif
     auto const& shown = desk.output.terminal;
     CHECK(shown.size() < 206000);
     CHECK(shown.substr(0, 17) == "first\nand so on\na");
