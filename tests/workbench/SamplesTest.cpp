@@ -21,8 +21,15 @@ TEST_CASE("the tour runs and saves what it made")
     REQUIRE(interpreter.Run(ReadFile("tour.zqs"), workbench::Interpreter::Echo::Statements));
     CHECK(output.errors.empty());
     CHECK(output.warnings.empty());
-    CHECK(output.codes.size() == 9);
+    CHECK(output.codes.size() == 11);
     CHECK(fs::exists("sample.zws"));
+
+    // The least-squares coefficients, which the vague prior hardly moves.
+    auto const& fuel = *workspace.models.at("fuel");
+    REQUIRE(fuel.drawNames == std::vector<std::string>{"constant", "wt", "hp", "tau", "sigma"});
+    CHECK(fuel.draws.col(0).mean() == Approx(37.22727).margin(0.15));
+    CHECK(fuel.draws.col(1).mean() == Approx(-3.87783).margin(0.06));
+    CHECK(fuel.draws.col(2).mean() == Approx(-0.03177).margin(0.001));
 
     workspace = {};
     REQUIRE(interpreter.Run("load(\"sample.zws\");", workbench::Interpreter::Echo::None));
