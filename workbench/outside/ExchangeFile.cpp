@@ -63,13 +63,23 @@ public:
     /// The next line, without its end.
     std::istringstream Line()
     {
-        std::string line(LONGEST_LINE, '\0');
-        line.resize(m_file.ReadAt(m_at, line.data(), line.size()));
-        auto const end = line.find('\n');
-        if (end == std::string::npos)
-            FailTorn();
-        m_at += end + 1;
-        return std::istringstream(line.substr(0, end));
+        // A piece holds all but the strangest lines, of which a file may have as many as variables.
+        constexpr std::size_t PIECE = 1000;
+        std::string line;
+        while (line.size() < LONGEST_LINE)
+        {
+            auto const begin = line.size();
+            line.resize(begin + PIECE);
+            line.resize(begin + m_file.ReadAt(m_at + begin, &line[begin], PIECE));
+            if (line.size() == begin)
+                break;
+            if (auto const end = line.find('\n', begin); end != std::string::npos)
+            {
+                m_at += end + 1;
+                return std::istringstream(line.substr(0, end));
+            }
+        }
+        FailTorn();
     }
 
     bool Has(std::uint64_t size) const { return size <= m_file.Size() - m_at; }

@@ -114,6 +114,22 @@ TEST_CASE("every missing value of a dataset is the same one")
     CHECK(SameBits(back->data.col(1), Eigen::MatrixXd::Constant(1, 1, NA)));
 }
 
+TEST_CASE("a line may be longer than the pieces in which a file is read, up to a bound")
+{
+    auto const nameOf = [](std::size_t length)
+    {
+        std::string const line = "number " + std::string(length - 7, 'x') + "\n";
+        auto const back =
+            std::get<std::shared_ptr<Dataset>>(Read("dataset 1 1\n" + line + Bytes({7})).object);
+        CHECK(back->data(0, 1) == 7.0);
+        return back->varNames[1].ToStdString().size();
+    };
+    for (std::size_t length : {20, 999, 1000, 1001, 2000, 54321, 99999})
+        CHECK(nameOf(length) == length - 7);
+    CHECK(Failure("dataset 1 1\nnumber " + std::string(100000 - 7, 'x') + "\n" + Bytes({7}))
+          == "what came back is torn");
+}
+
 TEST_CASE("a torn file is an error, and no reason to ask for memory")
 {
     for (std::string const& torn : std::vector<std::string>{"",
