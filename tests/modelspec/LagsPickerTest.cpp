@@ -350,7 +350,7 @@ TEST_CASE("lags picker: by the keys alone, also from the list to the button")
     CHECK(shown.button->GetLabel() == ">>");
 }
 
-TEST_CASE("lags picker: 10,000 random steps")
+TEST_CASE("lags picker: a random walk")
 {
     unsigned const seed = 20261121;
     std::mt19937 random(seed);

@@ -32,6 +32,20 @@ struct BridgeDesk : DataDesk
                + "\", \"" + back + "\");";
     }
 
+    /// What is told of a script that fails.
+    std::string FailureOf(std::string const& script, std::string const& out, std::string const& back)
+    {
+        return Failure(Call(script, out, back));
+    }
+
+    /// Interrupts a script that never ends.
+    void CheckInterrupted(std::string const& script)
+    {
+        meter.stopAt = 12;
+        CHECK(FailureOf(script, "A", "")
+              == "Line 1, column 1: interrupted; the statement changed nothing");
+    }
+
     /// Looks whether the script has handed back copies: `B` of A, `e` of d, `n` of none, `x2` of d.x.
     void CheckCopies()
     {

@@ -49,8 +49,7 @@ TEST_CASE("what GNU Octave can't do is one error in its own words")
     if (IsMissing("octave"))
         return;
     BridgeDesk desk("octave");
-    auto const failure = [&](std::string const& script, std::string const& out, std::string const& back)
-    { return desk.Failure(desk.Call(script, out, back)); };
+    auto const failure = [&](auto const&... names) { return desk.FailureOf(names...); };
     CHECK(Has(failure("x = 1;\nerror (\"boom %d\", 3);\n", "", ""),
               "Line 1, column 1: GNU Octave ended with status 1: error: boom 3"));
     auto const unread = failure("x = [1 2\ny = }\n", "", "");
@@ -83,7 +82,5 @@ TEST_CASE("a script of GNU Octave that never ends can be interrupted")
     if (IsMissing("octave"))
         return;
     BridgeDesk desk("octave");
-    desk.meter.stopAt = 12;
-    CHECK(desk.Failure(desk.Call("while (true) endwhile", "A", ""))
-          == "Line 1, column 1: interrupted; the statement changed nothing");
+    desk.CheckInterrupted("while (true) endwhile");
 }

@@ -54,8 +54,7 @@ TEST_CASE("what R can't do is one error in its own words")
     if (IsMissing("R"))
         return;
     BridgeDesk desk("rproject");
-    auto const failure = [&](std::string const& script, std::string const& out, std::string const& back)
-    { return desk.Failure(desk.Call(script, out, back)); };
+    auto const failure = [&](auto const&... names) { return desk.FailureOf(names...); };
     CHECK(Has(failure("stop('boom')\n", "", ""), "Line 1, column 1: R ended with status 1: Error in"));
     CHECK(Has(failure("stop('boom')\n", "", ""), ": boom\n"));
     CHECK(Has(failure("x <- c(1,\ny <- }\n", "", ""), "2:6: unexpected '}'"));
@@ -77,7 +76,5 @@ TEST_CASE("a script of R that never ends can be interrupted")
     if (IsMissing("R"))
         return;
     BridgeDesk desk("rproject");
-    desk.meter.stopAt = 12;
-    CHECK(desk.Failure(desk.Call("repeat {}", "A", ""))
-          == "Line 1, column 1: interrupted; the statement changed nothing");
+    desk.CheckInterrupted("repeat {}");
 }
